@@ -1,0 +1,4 @@
+#pragma once
+
+/// Prints the usage of all tasks to standard output.
+void help();

@@ -1,0 +1,116 @@
+#include "io/inputMap.hpp"
+
+#include "io/classicText.hpp"
+#include "io/printer.hpp"
+#include "io/reader.hpp"
+#include "io/sorvikIO.hpp"
+
+#include <algorithm>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+
+namespace {
+
+constexpr int maxPasses = 502;
+/// The number of changing passes after which a quiet one is reported. Others pass in silence.
+constexpr int reportedPasses = 500;
+
+bool isJson(const std::string& name) {
+    return name.find(".json") != std::string::npos;
+}
+
+} // namespace
+
+inputMap::inputMap(std::istream& in, char assignDLM, char memberDLM)
+    : map(sorvikIO::readInputStream(in, assignDLM, memberDLM)), assign(assignDLM),
+      member(memberDLM) {
+    assignSources();
+}
+
+inputMap::inputMap(std::string name) : fileName(std::move(name)) {
+    if (isJson(fileName)) {
+        assign = ':';
+    }
+    // Read whole: blocks are found by going back and forth in the text.
+    std::ifstream file(fileName, std::ios::binary);
+    const std::string content{std::istreambuf_iterator<char>(file), {}};
+    classicText text(content);
+    map = sorvikIO::readInputStream(text, assign, member);
+    assignSources();
+}
+
+void inputMap::assignSources() {
+    int changes = 0;
+    for (int pass = 0; pass < maxPasses; ++pass) {
+        if (!sorvikIO::assignAlternatives(map)) {
+            if (changes == reportedPasses) {
+                std::cout << "Warning: 500 iterations of assignAlternatives in sorvikIO. "
+                             "Something is off..."
+                          << std::endl;
+            }
+            return;
+        }
+        ++changes;
+    }
+}
+
+template <class T>
+T inputMap::read(const std::string& key, const T& fallback) const {
+    const auto entry = map.find(key);
+    if (entry == map.end()) {
+        return fallback;
+    }
+    T value{};
+    sorvikIO::parse(entry->second, value);
+    return value;
+}
+
+template double inputMap::read(const std::string&, const double&) const;
+template int inputMap::read(const std::string&, const int&) const;
+template std::vector<double> inputMap::read(const std::string&, const std::vector<double>&) const;
+
+void inputMap::set(std::string key, std::string value) {
+    if (value.find(assign) == std::string::npos) {
+        map[key] = value;
+        return;
+    }
+    classicText text(value);
+    const inputMap entries(text, sorvikIO::assignmentDLM, sorvikIO::memberDLM);
+    for (const auto& [subKey, subValue] : entries.map) {
+        set(key + sorvikIO::memberDLM + subKey, subValue);
+    }
+}
+
+void inputMap::print(std::string outName) const {
+    if (!isJson(outName)) {
+        return;
+    }
+    if (outName == ".json") {
+        outName = reader::removeExtension(fileName) + ".json";
+    }
+    const std::string text = sorvikIO::toJSON(map, 0);
+    std::ofstream out(outName);
+    out << text << std::flush;
+    if (!out) {
+        printer::fatalError("Cannot write the JSON file " + outName +
+                            ". Expected a file in an existing folder that can be written to, and "
+                            "room on the disk.");
+    }
+}
+
+std::vector<std::string> inputMap::getKeys(std::string word) const {
+    const std::string marker = word + "Type";
+    std::vector<std::string> names;
+    for (const auto& [key, value] : map) {
+        for (std::string name : sorvikIO::splitKey(key)) {
+            if (name.compare(0, word.size(), word) != 0 || name == marker) {
+                continue;
+            }
+            if (std::find(names.begin(), names.end(), name) == names.end()) {
+                names.push_back(std::move(name));
+            }
+        }
+    }
+    return names;
+}

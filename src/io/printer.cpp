@@ -1,0 +1,128 @@
+#include "io/printer.hpp"
+
+#include <cmath>
+#include <cstddef>
+#include <cstdlib>
+#include <iostream>
+
+int printer::m_dblSize = 8;
+
+namespace {
+
+constexpr int barLength = 50;
+
+[[noreturn]] void terminate() {
+    std::cout << "* * * Terminating sorvik simulation * * * \n\n" << std::endl;
+    std::exit(1);
+}
+
+void printHeader(const std::string& title) {
+    std::cout << "----- " << title << " -----" << std::endl;
+}
+
+void printFooter(const std::string& title) {
+    std::cout << "------" << std::string(title.size(), '-') << "------" << std::endl;
+    std::cout << std::endl;
+}
+
+} // namespace
+
+void printer::fatalError(const std::string& message) {
+    std::cout << "* * * * * * * * * * * A FATAL ERROR HAS OCCURED * * * * * * * * * * *\n\n\t"
+              << message << "\n\n"
+              << std::endl;
+    terminate();
+}
+
+void printer::fatalNotFound(const std::string& key, const std::string& format) {
+    std::cout << "* * * FATAL ERROR * * * \n\tCannot find value of " << key << " in input file. \n"
+              << std::endl;
+    if (!format.empty()) {
+        std::cout << "Expected input of format : \n\t" << key << " = " << format << "\n\n"
+                  << std::endl;
+    }
+    terminate();
+}
+
+void printer::fatalCheckSize(int found, int expected, const std::string& name) {
+    if (found == expected) {
+        return;
+    }
+    std::cout << "Expected vector of size " << expected << " for input " << name
+              << ". Found length " << found << std::endl;
+    fatalError("");
+}
+
+void printer::printMatrix(const int& rows, const int& cols, const double* data,
+                          const std::string& title) {
+    printHeader(title);
+    printMatrix(std::cout, rows, cols, data);
+    printFooter(title);
+}
+
+void printer::printMatrix(const int& rows, const int& cols, const std::vector<double>& data,
+                          const std::string& title) {
+    printMatrix(rows, cols, data.data(), title);
+}
+
+void printer::printMatrix(std::ostream& os, const int& rows, const int& cols, const double* data) {
+    for (int i = 0; i < rows; ++i) {
+        const double* row = data + static_cast<std::ptrdiff_t>(i) * cols;
+        for (int j = 0; j < cols; ++j) {
+            os << '\t' << row[j];
+        }
+        os << std::endl;
+    }
+}
+
+void printer::printMatrix(std::ostream& os, const int& rows, const int& cols,
+                          const std::vector<double>& data) {
+    printMatrix(os, rows, cols, data.data());
+}
+
+void printer::printMatrix(const int& rows, const int& cols, std::vector<std::string> cells,
+                          const std::string& title) {
+    printHeader(title);
+    auto cell = cells.cbegin();
+    for (int i = 0; i < rows; ++i) {
+        for (int j = 0; j < cols; ++j) {
+            std::cout << *cell++ << "  ";
+        }
+        std::cout << std::endl;
+    }
+    printFooter(title);
+}
+
+std::ostream& printer::printLine(std::ostream& os, const int& n, const double& first,
+                                 const double& scale, const double* values) {
+    os << first;
+    for (int i = 0; i < n; ++i) {
+        os << '\t' << values[i] * scale;
+    }
+    return os << '\n';
+}
+
+void printer::writeDoubles(std::ostream& os, int n, const double* values) {
+    if (n > 0) {
+        os.write(reinterpret_cast<const char*>(values),
+                 static_cast<std::streamsize>(n) * m_dblSize);
+    }
+}
+
+void printer::showProgress(const double& done, const double& total, int& shown) {
+    const double share = done * barLength / total;
+    if (!std::isfinite(share) || share <= -1.0) {
+        return;
+    }
+    // Bounded before the conversion: an int cannot hold every double.
+    const int filled = static_cast<int>(std::fmin(share, barLength));
+    if (filled > shown) {
+        shown = filled;
+        const auto length = static_cast<std::size_t>(filled);
+        std::cout << "\r[" << std::string(length, '#') << std::string(barLength - length, ' ')
+                  << "]   " << 2 * filled << " %" << std::flush;
+    }
+    if (filled == barLength) {
+        std::cout << std::endl;
+    }
+}

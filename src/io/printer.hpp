@@ -1,0 +1,54 @@
+#pragma once
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+/// The program's console output: fatal errors, labelled matrices, lines of a time series, progress.
+///
+/// Everything goes to standard output. The fatal members end the process with status 1 right after
+/// their last line: no destructors run, and partly written files stay as they are.
+class printer {
+public:
+    /// Bytes per double in binary result files.
+    static int m_dblSize;
+
+    /// Prints `message` in the fatal-error frame and ends the process with status 1.
+    [[noreturn]] static void fatalError(const std::string& message);
+
+    /// Reports that `key` has no value in the input file and ends the process with status 1.
+    /// A `format` that is not empty is shown as the expected input.
+    [[noreturn]] static void fatalNotFound(const std::string& key, const std::string& format);
+
+    /// Returns if `found` equals `expected`; otherwise reports the length of the vector that was
+    /// given for the input `name` and ends the process with status 1.
+    static void fatalCheckSize(int found, int expected, const std::string& name);
+
+    /// Prints a rows x cols matrix, row-major, under a header and over a footer of its width.
+    static void printMatrix(const int& rows, const int& cols, const double* data,
+                            const std::string& title);
+    static void printMatrix(const int& rows, const int& cols, const std::vector<double>& data,
+                            const std::string& title);
+    static void printMatrix(const int& rows, const int& cols, std::vector<std::string> cells,
+                            const std::string& title);
+
+    /// Writes the rows of a row-major matrix to `os`, every value after a tab, in the number format
+    /// of the stream. Nothing for `rows` below 1.
+    static void printMatrix(std::ostream& os, const int& rows, const int& cols, const double* data);
+    static void printMatrix(std::ostream& os, const int& rows, const int& cols,
+                            const std::vector<double>& data);
+
+    /// Writes one line of a time series: `first`, then `n` values times `scale`, tab-separated.
+    static std::ostream& printLine(std::ostream& os, const int& n, const double& first,
+                                   const double& scale, const double* values);
+
+    /// Writes `n` doubles as they lie in memory, `m_dblSize` bytes each.
+    static void writeDoubles(std::ostream& os, int n, const double* values);
+
+    /// Redraws a bar of 50 characters when it has grown beyond `shown`, the number of characters
+    /// drawn so far, which the caller owns and starts at 0. A full bar ends its line.
+    ///
+    /// A share that is negative or not finite (NaN, infinities, a total of zero) draws nothing; one
+    /// above 1 draws a full bar.
+    static void showProgress(const double& done, const double& total, int& shown);
+};

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <cstddef>
+#include <iosfwd>
+#include <vector>
+
+/// Reads white space, words, lines and numbers from a stream through large blocks.
+///
+/// Every member does what the stream's own extraction of that kind does in the classic locale: the
+/// same values, the same end positions and the same states for any input. The stream is read ahead,
+/// so that nothing else may read from it.
+class textScanner {
+public:
+    /// The stream must outlive the scanner.
+    explicit textScanner(std::istream& source);
+
+    /// Neither at the end nor failed.
+    bool good() const { return !ended && !hasFailed; }
+    bool failed() const { return hasFailed; }
+
+    /// As `in >> std::ws`.
+    void skipSpace();
+    /// As `in >> word`.
+    void skipWord();
+    /// As `std::getline(in, line)`.
+    void skipLine();
+    /// As `in.peek()`: the next character, or -1.
+    int peek();
+
+    /// As `in >> value` for float, double and int: 0 where there is no number, the nearest limit
+    /// where it is out of range, untouched where the stream is no longer good. Returns whether a
+    /// number was read.
+    template <class T>
+    bool read(T& value);
+
+private:
+    bool startExtraction();
+    bool atCharacter();
+    bool refill();
+    void skipSpaceCharacters();
+    template <class T>
+    bool readAsStream(T& value);
+
+    std::istream& in;
+    std::vector<char> block;
+    const char* next;
+    const char* end;
+    bool ended = false;
+    bool hasFailed;
+};

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "io/sixDigits.hpp"
+
+#include <charconv>
+#include <cstring>
+#include <memory>
+#include <ostream>
+#include <string_view>
+
+/// Writes text and numbers to a stream through one large block. Numbers are those of the default
+/// stream format in the classic locale.
+///
+/// What does not reach the stream shows in the stream's own state.
+class textWriter {
+public:
+    /// The stream must outlive the writer.
+    explicit textWriter(std::ostream& target) : out(target), block(new char[size]) {}
+    textWriter(const textWriter&) = delete;
+    textWriter& operator=(const textWriter&) = delete;
+    ~textWriter() { flush(); }
+
+    textWriter& operator<<(double value) {
+        reserve(sixDigits::maxLength);
+        end = sixDigits::write(end, value);
+        return *this;
+    }
+
+    textWriter& operator<<(float value) { return *this << static_cast<double>(value); }
+
+    textWriter& operator<<(int value) {
+        constexpr std::size_t maxLength = 11;
+        reserve(maxLength);
+        end = std::to_chars(end, end + maxLength, value).ptr;
+        return *this;
+    }
+
+    textWriter& operator<<(char c) {
+        reserve(1);
+        *end++ = c;
+        return *this;
+    }
+
+    /// `text` is shorter than the block.
+    textWriter& operator<<(std::string_view text) {
+        reserve(text.size());
+        std::memcpy(end, text.data(), text.size());
+        end += text.size();
+        return *this;
+    }
+
+    /// Hands what is in the block to the stream.
+    void flush() {
+        out.write(block.get(), end - block.get());
+        end = block.get();
+    }
+
+private:
+    static constexpr std::size_t size = std::size_t(1) << 18;
+
+    void reserve(std::size_t count) {
+        if (count > size - static_cast<std::size_t>(end - block.get())) {
+            flush();
+        }
+    }
+
+    std::ostream& out;
+    std::unique_ptr<char[]> block;
+    char* end = block.get();
+};

@@ -1,0 +1,44 @@
+#include "support/files.hpp"
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+temporaryFolder::temporaryFolder() {
+    std::string name = (std::filesystem::temp_directory_path() / "sorvikTest.XXXXXX").string();
+    if (mkdtemp(name.data()) == nullptr) {
+        ADD_FAILURE() << "cannot make " << name;
+    }
+    folder = name;
+}
+
+temporaryFolder::~temporaryFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(folder, ignored);
+}
+
+std::string temporaryFolder::path(const std::string& name) const {
+    return name.empty() ? folder : folder + "/" + name;
+}
+
+std::string writeFile(const std::string& path, const std::string& content) {
+    std::ofstream out(path, std::ios::binary);
+    out << content << std::flush;
+    EXPECT_TRUE(out.good()) << "cannot write " << path;
+    return path;
+}
+
+std::string readFile(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    EXPECT_TRUE(in.is_open()) << "cannot read " << path;
+    std::ostringstream content;
+    content << in.rdbuf();
+    return content.str();
+}
+
+bool fileExists(const std::string& path) {
+    return std::filesystem::exists(path);
+}

@@ -1,5 +1,6 @@
 #include "app/help.hpp"
 #include "app/jsonFormat.hpp"
+#include "app/meshConvert.hpp"
 #include "io/reader.hpp"
 
 namespace {
@@ -16,6 +17,11 @@ bool isAsked(const char* flag, int argc, const char** argv) {
 int main(int argc, const char** argv) {
     if (argc < 2) {
         help();
+        return 0;
+    }
+    int position = argc;
+    if (reader::findFlag("-meshConvert", argc, argv, position) &&
+        !meshConvert(position, argc, argv)) {
         return 0;
     }
     if (isAsked("-toJSON", argc, argv)) {

@@ -1,0 +1,144 @@
+#pragma once
+
+#include "mesh/triangle.hpp"
+#include "mesh/v3.hpp"
+
+#include <array>
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+/// Hull surface of one floating body: panels, their placement, and the wetted part below a level.
+///
+/// Lengths in m, z up. Panel geometry is single precision; placement and levels are double. A mesh
+/// without panels is valid. Degenerate panels are not looked for: their normals are not finite.
+class bodyMesh {
+public:
+    std::string meshFile;             ///< as given to the constructor
+    int nFaces = 0;                   ///< panels as read, doubled by every mirroring
+    std::vector<triangle> faces;      ///< all panels, in file order
+    std::vector<triangle> splitFaces; ///< sub-panels made by the cut
+    /// The wetted surface: wholly submerged elements of `faces`, then all of `splitFaces`. Valid
+    /// until the next cut, reading or mirroring.
+    std::vector<triangle*> wetFaces;
+    std::vector<triangle*> dryFaces; ///< emptied by the cut, and not filled by it
+    v3<float> origin;                ///< the point that the mesh is placed by, in mesh coordinates
+    std::array<double, 3> position{};
+    std::array<double, 9> rotation{};       ///< applied to the panels, row-major
+    std::array<double, 9> targetRotation{}; ///< asked for with `setRotation`, row-major
+    double totalArea = 0;                   ///< m², of all panels as constructed
+
+    /// An empty mesh, every field zero.
+    bodyMesh() = default;
+    /// Reads the file, moves the mesh so that the file's point `origin` becomes (0, 0, 0), places
+    /// it at `position` and cuts it at the global height `level`. Both vectors hold at least 3
+    /// values. An unsupported file name extension ends the process with status 1.
+    bodyMesh(std::string file, std::vector<double> const& origin,
+             std::vector<double> const& position, double level);
+    // The wetted surface points into the mesh that it belongs to.
+    bodyMesh(bodyMesh const&) = delete;
+    bodyMesh& operator=(bodyMesh const&) = delete;
+    bodyMesh(bodyMesh&&) = default;
+    bodyMesh& operator=(bodyMesh&&) = default;
+    ~bodyMesh() = default;
+
+    // ---- Placement and sums (bodyMesh.cpp) ----
+
+    /// Takes over p[0..2].
+    void setPosition(double const* p);
+    /// Takes over R[0..8] for the next `rotate`.
+    void setRotation(double const* R);
+    /// Moves panels and sub-panels so that `origin` comes to `position`.
+    void translate();
+    /// Turns the panels from `rotation` to `targetRotation`; the sub-panels wait for the next cut.
+    void rotate();
+    /// The area of all panels [m²].
+    double surfaceArea() const;
+    /// Completes a half hull that is symmetric about the plane x = 0 or y = 0.
+    void mirrorX();
+    void mirrorY();
+    /// Inertia matrix (row-major 3 x 3) of `mass` spread evenly over the panels, each taken as a
+    /// point mass at its centroid.
+    std::vector<double> shellInertia(double mass) const;
+    /// Says that it is not implemented, and gives `shellInertia`.
+    std::vector<double> volumeInertia(double mass) const;
+    /// Hydrostatic force and moment (F[0..2], F[3..5], resized to 6) on the wetted surface under a
+    /// free surface at the global height `elevation`; `factor` is water density times gravity.
+    void FroudeKrylovForces(double const& elevation, double const& factor,
+                            std::vector<double>& F) const;
+    /// Global coordinates of the panel centroids: x, y, z per panel, or `blocked`, all x, all y,
+    /// all z.
+    void faceCentresGlobal(std::vector<double>& out, bool blocked) const;
+
+    // ---- Waterline cut (bodyMesh_cut.cpp) ----
+
+    /// Cuts the panels at the global height `level` [m], rebuilds `splitFaces` and `wetFaces`, and
+    /// prints the counts.
+    ///
+    /// A corner at the level counts as submerged. A cut panel whose submerged corners do not all
+    /// lie deeper than a tolerance of 1e-4 is dropped: it counts neither as wet nor as dry nor as
+    /// split.
+    void updateWetSurface(double const& level);
+
+    // ---- Choice of the format (bodyMesh_format.cpp) ----
+
+    /// 0 for STL, 1 for GDF, 2 for Nemoh, -1 otherwise, by the last four characters of the name,
+    /// which are printed. A name that is shorter is a std::out_of_range.
+    static int chooseFrmt(std::string const& file);
+    /// Reads a mesh in the format of its name; false where something is wrong with it. An
+    /// unsupported extension ends the process with status 1.
+    bool read(std::string const& file);
+    /// Writes the mesh, or its wetted surface, in the format of the name; false where there is
+    /// none. Nemoh files always hold the wetted surface.
+    bool write(std::string const& file, bool wetOnly);
+
+    // ---- STL (bodyMesh_stl.cpp) ----
+
+    /// Whether the file is to be read as binary: all but "solid" in its first and "facet" in its
+    /// second line, both in small letters or capitals.
+    static bool stl_isbinary(std::string const& file);
+    /// Appends the facets of a file; false where the stream did not end in a good state.
+    bool stl_read_ascii(std::string const& file);
+    /// Replaces the panels by those of a file; false where it is shorter than it announces. A count
+    /// beyond what memory can hold is fatal.
+    bool stl_read(std::string const& file);
+    void stl_print_ascii(std::string const& file, bool wetOnly) const;
+    void stl_print(std::string const& file, bool wetOnly) const;
+
+    // ---- WAMIT GDF (bodyMesh_gdf.cpp) ----
+
+    /// Appends the panels of a file and mirrors them where it says so; false where it holds fewer
+    /// records than it announces.
+    bool gdf_read(std::string const& file);
+    void gdf_print(std::string const& file, bool wetOnly, double ULEN, double GRAV) const;
+
+    // ---- Nemoh mesh (bodyMesh_nemoh.cpp) ----
+
+    /// Adds the numbers of node and panel lines to the counters and returns the symmetry flag.
+    static int nemoh_readMeshInfo(std::string const& file, int& nNodes, int& nPanels);
+    /// Appends the panels of a file, mirrors them where it says so, and returns `nFaces`. The line
+    /// that ends the panels comes in as one more, of zero area at (0, 0, 0).
+    int nemoh_read(std::string const& file);
+    /// Writes the wetted surface, corners closer than 1e-5 merged, and returns the number of nodes.
+    /// Warns unless `wetOnly`.
+    int nemoh_print(std::string const& file, bool wetOnly) const;
+    /// The same to a stream, whose state tells whether it was written.
+    int nemoh_write(std::ostream& out) const;
+
+private:
+    void completeByMirror(float v3<float>::*axis);
+    void appendSplit(triangle const& panel, double cut);
+    /// Calls `use` with every panel that a writer is asked for, in order.
+    template <class Use>
+    void forChosen(bool wetOnly, Use use) const {
+        if (wetOnly) {
+            for (triangle const* panel : wetFaces) {
+                use(*panel);
+            }
+        } else {
+            for (triangle const& panel : faces) {
+                use(panel);
+            }
+        }
+    }
+};

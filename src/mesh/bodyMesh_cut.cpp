@@ -1,0 +1,105 @@
+#include "mesh/bodyMesh.hpp"
+
+#include <iostream>
+
+// The panels' corners are compared with the cut height in double; the new corners on cut edges are
+// formed in float, like all panel geometry.
+
+namespace {
+
+/// Depth below the cut [m] that the submerged corners of a cut panel must exceed: thinner slivers
+/// would give panels without a usable normal or area.
+constexpr double sliverDepth = 0.0001;
+
+float depthBelow(double cut, v3<float> const& corner) {
+    return static_cast<float>(cut - static_cast<double>(corner.z));
+}
+
+bool isSubmerged(double cut, v3<float> const& corner) {
+    return cut >= static_cast<double>(corner.z);
+}
+
+/// The point where the edge from the corner `from`, `depth` below the cut, to the corner `to` above
+/// it meets the cut.
+v3<float> cutPoint(v3<float> const& from, v3<float> const& to, float depth) {
+    const float t = depth / (to.z - from.z);
+    return (1.0F - t) * from + t * to;
+}
+
+/// The corners of a panel from its `first` one (0, 1, 2) on, in cyclic order.
+struct cornersFrom {
+    v3<float> const& at;
+    v3<float> const& next;
+    v3<float> const& previous;
+
+    cornersFrom(triangle const& p, int first)
+        : at(corner(p, first)), next(corner(p, first + 1)), previous(corner(p, first + 2)) {}
+
+    static v3<float> const& corner(triangle const& p, int i) {
+        return i % 3 == 0 ? p.vertexA : i % 3 == 1 ? p.vertexB : p.vertexC;
+    }
+};
+
+bool isSliver(float depth) {
+    return !(static_cast<double>(depth) > sliverDepth);
+}
+
+/// Appends the wet part of a panel with one submerged corner; false where it is dropped.
+bool appendTip(std::vector<triangle>& target, triangle const& panel, int submerged, double cut) {
+    const cornersFrom c(panel, submerged);
+    const float depth = depthBelow(cut, c.at);
+    if (isSliver(depth)) {
+        return false;
+    }
+    target.emplace_back(panel.normal, c.at, cutPoint(c.at, c.next, depth),
+                        cutPoint(c.at, c.previous, depth));
+    return true;
+}
+
+/// Appends the wet part of a panel with one dry corner, a quadrilateral, as two panels; false where
+/// it is dropped.
+bool appendQuadrilateral(std::vector<triangle>& target, triangle const& panel, int dry,
+                         double cut) {
+    const cornersFrom c(panel, dry);
+    const float depthPrevious = depthBelow(cut, c.previous);
+    const float depthNext = depthBelow(cut, c.next);
+    if (isSliver(depthPrevious) || isSliver(depthNext)) {
+        return false;
+    }
+    const v3<float> onNext = cutPoint(c.next, c.at, depthNext);
+    const v3<float> onPrevious = cutPoint(c.previous, c.at, depthPrevious);
+    target.emplace_back(panel.normal, c.next, c.previous, onPrevious);
+    target.emplace_back(panel.normal, c.next, onPrevious, onNext);
+    return true;
+}
+
+} // namespace
+
+void bodyMesh::updateWetSurface(double const& level) {
+    const double cut = (static_cast<double>(origin.z) + level) - position[2];
+    splitFaces.clear();
+    wetFaces.clear();
+    dryFaces.clear();
+    int dry = 0;
+    int split = 0;
+    for (triangle& panel : faces) {
+        const bool wet[] = {isSubmerged(cut, panel.vertexA), isSubmerged(cut, panel.vertexB),
+                            isSubmerged(cut, panel.vertexC)};
+        const int submerged = wet[0] + wet[1] + wet[2];
+        if (submerged == 3) {
+            wetFaces.push_back(&panel);
+        } else if (submerged == 0) {
+            ++dry;
+        } else {
+            const bool alone = submerged == 1;
+            const int corner = wet[0] == alone ? 0 : wet[1] == alone ? 1 : 2;
+            split += alone ? appendTip(splitFaces, panel, corner, cut)
+                           : appendQuadrilateral(splitFaces, panel, corner, cut);
+        }
+    }
+    for (triangle& panel : splitFaces) {
+        wetFaces.push_back(&panel);
+    }
+    std::cout << "Set submergence level with:" << wetFaces.size() << " wet faces, " << dry
+              << " dry faces, and " << split << " split faces close to waterline" << std::endl;
+}

@@ -1,0 +1,59 @@
+#include "mesh/bodyMesh.hpp"
+
+#include <cstdlib>
+#include <iostream>
+#include <map>
+
+namespace {
+
+enum format : int { unknown = -1, stl = 0, gdf = 1, nemoh = 2 };
+
+} // namespace
+
+int bodyMesh::chooseFrmt(std::string const& file) {
+    static const std::map<std::string, format> formats = {
+        {".stl", stl},   {".STL", stl},   {".gdf", gdf},  {".GDF", gdf},
+        {".dat", nemoh}, {".DAT", nemoh}, {".nem", nemoh}};
+    const std::string extension = file.substr(file.size() - 4);
+    std::cout << "mesh format is: " << extension << std::endl;
+    const auto found = formats.find(extension);
+    return found == formats.end() ? unknown : found->second;
+}
+
+bool bodyMesh::read(std::string const& file) {
+    const int frmt = chooseFrmt(file);
+    switch (frmt) {
+    case stl:
+        return stl_isbinary(file) ? stl_read(file) : stl_read_ascii(file);
+    case gdf:
+        return gdf_read(file);
+    case nemoh:
+        return nemoh_read(file) != 0;
+    default:
+        std::cout << "WARNING. MESH FILE FORMAT " << frmt
+                  << " IS NOT SUPPPORTED. PLEASE SUPPLY A .gdf or .stl or a .dat nemoh mesh file."
+                  << std::endl;
+        std::exit(1);
+    }
+}
+
+bool bodyMesh::write(std::string const& file, bool wetOnly) {
+    constexpr double lengthScale = 1.0;
+    constexpr double gravity = 9.81;
+    switch (chooseFrmt(file)) {
+    case stl:
+        stl_print(file, wetOnly);
+        return true;
+    case gdf:
+        gdf_print(file, wetOnly, lengthScale, gravity);
+        return true;
+    case nemoh:
+        nemoh_print(file, true);
+        return true;
+    default:
+        std::cout << "Warning: Output format not supported. Please choose among: .gdf, .stl and "
+                     ".dat formats"
+                  << std::endl;
+        return false;
+    }
+}

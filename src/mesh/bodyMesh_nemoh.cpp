@@ -1,0 +1,163 @@
+#include "mesh/bodyMesh.hpp"
+
+#include "io/textScanner.hpp"
+#include "io/textWriter.hpp"
+#include "mesh/nodeMatcher.hpp"
+
+#include <fstream>
+#include <iostream>
+#include <map>
+
+//     2 0              a marker, and 1 for half a hull that is symmetric about y = 0
+//     1 x y z          nodes, numbered from 1
+//     0 0. 0. 0.       their end: a number below 1
+//     1 2 3 1          panels: four node numbers; those of a triangle end with the first
+//     0 0 0 0          their end, which is itself read as a panel
+
+namespace {
+
+/// Node coordinates by number. Most files number their nodes 1, 2, 3, ...: these lie in an array.
+class nodeList {
+public:
+    /// A later node replaces an earlier one of its number.
+    void set(int number, v3<float> const& p) {
+        const auto index = static_cast<std::size_t>(number);
+        if (index == inOrder.size()) {
+            inOrder.push_back(p);
+        } else if (index < inOrder.size()) {
+            inOrder[index] = p;
+        } else {
+            others[number] = p;
+        }
+    }
+
+    /// (0, 0, 0) for a number that was never set.
+    v3<float> get(int number) const {
+        const auto index = static_cast<std::size_t>(number);
+        if (number > 0 && index < inOrder.size()) {
+            return inOrder[index];
+        }
+        const auto other = others.find(number);
+        return other == others.end() ? v3<float>{} : other->second;
+    }
+
+private:
+    std::vector<v3<float>> inOrder = std::vector<v3<float>>(1);
+    std::map<int, v3<float>> others;
+};
+
+/// Reads the two header numbers and the first node number; returns the symmetry flag.
+int readHeader(textScanner& in, int& firstNode) {
+    int marker = 0;
+    int symmetry = 0;
+    in.read(marker);
+    in.read(symmetry);
+    in.read(firstNode);
+    return symmetry;
+}
+
+v3<float> readPoint(textScanner& in) {
+    v3<float> point;
+    in.read(point.x);
+    in.read(point.y);
+    in.read(point.z);
+    return point;
+}
+
+/// Reads the nodes from number `first` on, and the line that ends them.
+nodeList readNodes(textScanner& in, int first) {
+    nodeList nodes;
+    int number = first;
+    while (in.good() && number >= 1) {
+        nodes.set(number, readPoint(in));
+        in.read(number);
+    }
+    readPoint(in);
+    return nodes;
+}
+
+void readPanels(textScanner& in, nodeList const& nodes, std::vector<triangle>& faces) {
+    for (;;) {
+        // The end of line behind the last panel begins no other.
+        in.skipSpace();
+        in.peek();
+        if (!in.good()) {
+            return;
+        }
+        int corner[4] = {};
+        for (int& number : corner) {
+            in.read(number);
+        }
+        const v3<float> a = nodes.get(corner[0]);
+        const v3<float> c = nodes.get(corner[2]);
+        faces.emplace_back(a, nodes.get(corner[1]), c);
+        if (corner[0] != corner[3]) {
+            faces.emplace_back(a, c, nodes.get(corner[3]));
+        }
+    }
+}
+
+} // namespace
+
+int bodyMesh::nemoh_readMeshInfo(std::string const& file, int& nNodes, int& nPanels) {
+    std::ifstream stream(file, std::ios::binary);
+    textScanner in(stream);
+    int number = 0;
+    const int symmetry = readHeader(in, number);
+    while (in.good() && number >= 1) {
+        in.skipLine();
+        ++nNodes;
+        in.read(number);
+    }
+    in.skipLine();
+    // A panel line is any line up to the first that begins with 0; one that the file breaks off in
+    // is none.
+    for (bool isEnd = in.peek() == '0'; in.good() && !isEnd; isEnd = in.peek() == '0') {
+        in.skipLine();
+        nPanels += in.good() ? 1 : 0;
+    }
+    return symmetry;
+}
+
+int bodyMesh::nemoh_read(std::string const& file) {
+    std::ifstream stream(file, std::ios::binary);
+    textScanner in(stream);
+    int firstNode = 0;
+    const int symmetry = readHeader(in, firstNode);
+    const nodeList nodes = readNodes(in, firstNode);
+    readPanels(in, nodes, faces);
+    nFaces = static_cast<int>(faces.size());
+    if (symmetry == 1) {
+        mirrorY();
+    }
+    return nFaces;
+}
+
+int bodyMesh::nemoh_print(std::string const& file, bool wetOnly) const {
+    if (!wetOnly) {
+        std::cout << " Warning: Nemoh mesh only supports wetFaces to be printed." << std::endl;
+    }
+    std::ofstream stream(file, std::ios::binary);
+    return nemoh_write(stream);
+}
+
+int bodyMesh::nemoh_write(std::ostream& stream) const {
+    nodeMatcher matcher;
+    for (triangle const* panel : wetFaces) {
+        matcher.addPanel(panel->vertexA, panel->vertexB, panel->vertexC);
+    }
+    textWriter out(stream);
+    out << "2 0\n";
+    int number = 0;
+    for (v3<float> const& node : matcher.nodes()) {
+        out << ++number << ' ' << node.x << ' ' << node.y << ' ' << node.z << '\n';
+    }
+    out << "0 0. 0. 0.\n";
+    std::vector<int> const& corners = matcher.corners();
+    for (std::size_t i = 0; i < corners.size(); i += 3) {
+        const int first = corners[i];
+        out << first << ' ' << corners[i + 1] << ' ' << corners[i + 2] << ' ' << first << '\n';
+    }
+    out << "0 0 0 0\n";
+    return number;
+}

@@ -1,0 +1,247 @@
+#include "mesh/bodyMesh.hpp"
+
+#include "io/memoryCheck.hpp"
+#include "io/printer.hpp"
+#include "io/textScanner.hpp"
+#include "io/textWriter.hpp"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+#include <fstream>
+#include <iostream>
+#include <limits>
+
+// Binary, little-endian: 80 bytes of header, the number of facets in 4 bytes, 50 bytes a facet:
+// normal, A, B, C (12 floats) and 2 bytes of attribute.
+//
+// ASCII:  solid NAME
+//         facet normal nx ny nz
+//           outer loop
+//             vertex x y z                three times
+//           endloop
+//         endfacet
+//         endsolid NAME
+// Keywords are not checked: any word stands for any other. White space is free.
+
+namespace {
+
+constexpr std::size_t headerSize = 80;
+constexpr std::size_t countSize = 4;
+constexpr std::size_t floatsPerFacet = 12;
+constexpr std::size_t facetSize = floatsPerFacet * sizeof(float) + 2;
+constexpr std::size_t facetsPerBlock = 4096;
+/// The attribute of every facet written.
+constexpr char attribute[] = {0x30, 0x00};
+/// A mesh that holds more panels than this is not read into.
+constexpr int mostPanels = 499999;
+
+/// What one panel takes in memory: its fields, its open product, and its place in the wetted
+/// surface.
+constexpr std::size_t panelMemory = sizeof(triangle) + 9 * sizeof(double) + 16 + sizeof(triangle*);
+
+std::uint32_t loadWord(const char* bytes) {
+    std::uint32_t word = 0;
+    for (int i = 3; i >= 0; --i) {
+        word = word << 8 | static_cast<unsigned char>(bytes[i]);
+    }
+    return word;
+}
+
+void storeWord(char* bytes, std::uint32_t word) {
+    for (int i = 0; i < 4; ++i) {
+        bytes[i] = static_cast<char>(static_cast<unsigned char>(word >> (8 * i)));
+    }
+}
+
+triangle loadFacet(const char* record) {
+    float values[floatsPerFacet];
+    for (std::size_t i = 0; i < floatsPerFacet; ++i) {
+        const std::uint32_t word = loadWord(record + i * sizeof(float));
+        std::memcpy(values + i, &word, sizeof word);
+    }
+    return triangle(values);
+}
+
+char* storeVector(char* bytes, v3<float> const& v) {
+    for (const float value : {v.x, v.y, v.z}) {
+        std::uint32_t word = 0;
+        std::memcpy(&word, &value, sizeof word);
+        storeWord(bytes, word);
+        bytes += sizeof word;
+    }
+    return bytes;
+}
+
+/// Facet records through a large block.
+class facetWriter {
+public:
+    explicit facetWriter(std::ostream& target) : out(target), block(facetsPerBlock * facetSize) {}
+    facetWriter(facetWriter const&) = delete;
+    facetWriter& operator=(facetWriter const&) = delete;
+    ~facetWriter() { flush(); }
+
+    void write(triangle const& panel) {
+        end = storeVector(end, panel.normal);
+        end = storeVector(end, panel.vertexA);
+        end = storeVector(end, panel.vertexB);
+        end = storeVector(end, panel.vertexC);
+        end = std::copy(std::begin(attribute), std::end(attribute), end);
+        if (end == block.data() + block.size()) {
+            flush();
+        }
+    }
+
+private:
+    void flush() {
+        out.write(block.data(), end - block.data());
+        end = block.data();
+    }
+
+    std::ostream& out;
+    std::vector<char> block;
+    char* end = block.data();
+};
+
+/// Appends `count` facets. Where the stream ends early, the rest repeats its last record, as far as
+/// that goes.
+void readFacets(std::istream& in, std::size_t count, std::vector<triangle>& faces) {
+    std::vector<char> block(std::min(count, facetsPerBlock) * facetSize);
+    std::vector<char> last(facetSize);
+    for (std::size_t left = count; left > 0;) {
+        const std::size_t wanted = std::min(left, facetsPerBlock);
+        in.read(block.data(), static_cast<std::streamsize>(wanted * facetSize));
+        const auto got = static_cast<std::size_t>(in.gcount());
+        const std::size_t whole = got / facetSize;
+        for (std::size_t i = 0; i < whole; ++i) {
+            faces.push_back(loadFacet(block.data() + i * facetSize));
+        }
+        if (whole > 0) {
+            std::memcpy(last.data(), block.data() + (whole - 1) * facetSize, facetSize);
+        }
+        std::memcpy(last.data(), block.data() + whole * facetSize, got - whole * facetSize);
+        for (std::size_t i = whole; i < wanted; ++i) {
+            faces.push_back(loadFacet(last.data()));
+        }
+        left -= wanted;
+    }
+}
+
+/// Reads three floats behind a keyword of `words` words.
+void readVector(textScanner& in, int words, float* values) {
+    for (int i = 0; i < words; ++i) {
+        in.skipWord();
+    }
+    for (int i = 0; i < 3; ++i) {
+        in.read(values[i]);
+    }
+    in.skipSpace();
+}
+
+triangle readFacet(textScanner& in) {
+    float values[floatsPerFacet] = {};
+    readVector(in, 2, values);
+    in.skipLine();
+    for (int corner = 1; corner <= 3; ++corner) {
+        readVector(in, 1, values + static_cast<std::size_t>(3 * corner));
+    }
+    in.skipLine();
+    in.skipLine();
+    in.skipSpace();
+    return triangle(values);
+}
+
+/// Whether the next line begins a facet: an F, small or capital.
+bool isFacetNext(textScanner& in) {
+    constexpr int lowerCaseBit = 0x20;
+    const int next = in.peek();
+    return in.good() && (next & ~lowerCaseBit) == 'F';
+}
+
+void writeVector(textWriter& out, v3<float> const& v) {
+    out << v.x << ' ' << v.y << ' ' << v.z << '\n';
+}
+
+void writeFacet(textWriter& out, triangle const& panel) {
+    out << "\tfacet normal ";
+    writeVector(out, panel.normal);
+    out << "\t\touter loop\n";
+    for (auto corner : {&triangle::vertexA, &triangle::vertexB, &triangle::vertexC}) {
+        out << "\t\t\tvertex ";
+        writeVector(out, panel.*corner);
+    }
+    out << "\t\tendloop\n\tendfacet\n";
+}
+
+bool holdsWord(std::string const& line, const char* small, const char* capital) {
+    return line.find(small) != std::string::npos || line.find(capital) != std::string::npos;
+}
+
+} // namespace
+
+bool bodyMesh::stl_isbinary(std::string const& file) {
+    std::ifstream in(file, std::ios::binary);
+    std::string line;
+    std::getline(in, line);
+    if (!holdsWord(line, "solid", "SOLID")) {
+        return true;
+    }
+    std::getline(in, line);
+    return !holdsWord(line, "facet", "FACET");
+}
+
+bool bodyMesh::stl_read_ascii(std::string const& file) {
+    std::cout << " READING STL FILE " << file << " IN ASCII FORMAT " << std::endl;
+    std::ifstream stream(file, std::ios::binary);
+    textScanner in(stream);
+    in.skipLine();
+    int count = 0;
+    if (in.good()) {
+        // `nFaces` is that of an earlier read: only a mesh that is full already is left alone.
+        while (nFaces <= mostPanels) {
+            faces.push_back(readFacet(in));
+            ++count;
+            if (!isFacetNext(in)) {
+                break;
+            }
+        }
+    }
+    nFaces = count;
+    std::cout << " Read " << count << " triangles in mesh" << std::endl;
+    return in.good();
+}
+
+bool bodyMesh::stl_read(std::string const& file) {
+    std::ifstream in(file, std::ios::binary);
+    char head[headerSize + countSize] = {};
+    in.read(head, sizeof head);
+    const std::uint32_t count = loadWord(head + headerSize);
+    if (count > std::uint32_t(std::numeric_limits<int>::max()) ||
+        !memoryCanHold(count, panelMemory)) {
+        printer::fatalError(file + " announces " + std::to_string(count) +
+                            " facets, more than memory can hold.");
+    }
+    faces.clear();
+    faces.reserve(count);
+    readFacets(in, count, faces);
+    nFaces = static_cast<int>(count);
+    return in.good();
+}
+
+void bodyMesh::stl_print_ascii(std::string const& file, bool wetOnly) const {
+    std::ofstream stream(file, std::ios::binary);
+    textWriter out(stream);
+    out << "solid OBJECT\n";
+    forChosen(wetOnly, [&](triangle const& panel) { writeFacet(out, panel); });
+    out << "endsolid OBJECT\n";
+}
+
+void bodyMesh::stl_print(std::string const& file, bool wetOnly) const {
+    std::ofstream stream(file, std::ios::binary);
+    char head[headerSize + countSize] = {};
+    storeWord(head + headerSize,
+              wetOnly ? static_cast<std::uint32_t>(wetFaces.size()) : std::uint32_t(nFaces));
+    stream.write(head, sizeof head);
+    facetWriter out(stream);
+    forChosen(wetOnly, [&](triangle const& panel) { out.write(panel); });
+}

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <cmath>
+#include <cstddef>
+#include <cstdlib>
+#include <iostream>
+#include <vector>
+
+/// A vector of three components that lie one after the other in memory. Every operation rounds to
+/// T.
+template <class T>
+struct v3 {
+    T x = T(0);
+    T y = T(0);
+    T z = T(0);
+
+    /// Outer product of this vector with `b`, row-major: M[3i + j] = this_i * b_j, formed in T and
+    /// widened. Added to M where `add` is set, else written. M has 9 entries; any other size ends
+    /// the process with status -1.
+    void OP(v3 const& b, std::vector<double>& M, bool add) const;
+};
+
+template <class T>
+v3<T> operator+(v3<T> const& a, v3<T> const& b) {
+    return {a.x + b.x, a.y + b.y, a.z + b.z};
+}
+
+template <class T>
+v3<T> operator-(v3<T> const& a, v3<T> const& b) {
+    return {a.x - b.x, a.y - b.y, a.z - b.z};
+}
+
+template <class T>
+v3<T> operator*(T s, v3<T> const& a) {
+    return {s * a.x, s * a.y, s * a.z};
+}
+
+template <class T>
+v3<T> operator/(v3<T> const& a, T s) {
+    return {a.x / s, a.y / s, a.z / s};
+}
+
+template <class T>
+v3<T> cross(v3<T> const& a, v3<T> const& b) {
+    return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
+}
+
+template <class T>
+T length(v3<T> const& a) {
+    return std::sqrt(a.x * a.x + a.y * a.y + a.z * a.z);
+}
+
+template <class T>
+void v3<T>::OP(v3 const& b, std::vector<double>& M, bool add) const {
+    if (M.size() != 9) {
+        std::cout << "Fatal error. Size of v3 open product target is not 9. Exit. " << std::endl;
+        std::exit(-1);
+    }
+    const T left[] = {x, y, z};
+    const T right[] = {b.x, b.y, b.z};
+    for (std::size_t i = 0; i < 3; ++i) {
+        for (std::size_t j = 0; j < 3; ++j) {
+            const auto product = static_cast<double>(left[i] * right[j]);
+            M[3 * i + j] = add ? M[3 * i + j] + product : product;
+        }
+    }
+}

@@ -1,0 +1,48 @@
+#include "support/meshes.hpp"
+
+#include <cmath>
+#include <utility>
+
+std::vector<triangle> box(v3<float> low, v3<float> high) {
+    const auto corner = [&](int i) {
+        return v3<float>{i & 1 ? high.x : low.x, i & 2 ? high.y : low.y, i & 4 ? high.z : low.z};
+    };
+    // Four corners a side, counter-clockwise from outside; bits of a corner: x, y, z.
+    const int sides[6][4] = {{0, 2, 3, 1}, {4, 5, 7, 6}, {0, 1, 5, 4},
+                             {2, 6, 7, 3}, {0, 4, 6, 2}, {1, 3, 7, 5}};
+    std::vector<triangle> panels;
+    for (const auto& s : sides) {
+        panels.emplace_back(corner(s[0]), corner(s[1]), corner(s[2]));
+        panels.emplace_back(corner(s[0]), corner(s[2]), corner(s[3]));
+    }
+    return panels;
+}
+
+std::vector<triangle> ellipsoid(int around, int rings) {
+    const double pi = std::acos(-1.0);
+    const auto point = [&](int i, int j) {
+        const double u = 2 * pi * (i % around) / around;
+        const double v = pi * j / rings;
+        return v3<float>{static_cast<float>(20 * std::sin(v) * std::cos(u)),
+                         static_cast<float>(5 * std::sin(v) * std::sin(u)),
+                         static_cast<float>(-4 * std::cos(v))};
+    };
+    std::vector<triangle> panels;
+    for (int i = 0; i < around; ++i) {
+        for (int j = 0; j < rings; ++j) {
+            if (j > 0) {
+                panels.emplace_back(point(i, j), point(i, j + 1), point(i + 1, j));
+            }
+            if (j < rings - 1) {
+                panels.emplace_back(point(i + 1, j), point(i, j + 1), point(i + 1, j + 1));
+            }
+        }
+    }
+    return panels;
+}
+
+void fillMesh(bodyMesh& mesh, std::vector<triangle> panels) {
+    mesh.faces = std::move(panels);
+    mesh.nFaces = static_cast<int>(mesh.faces.size());
+    mesh.updateWetSurface(0.0);
+}

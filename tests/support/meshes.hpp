@@ -1,0 +1,16 @@
+#pragma once
+
+#include "mesh/bodyMesh.hpp"
+
+#include <string>
+#include <vector>
+
+/// Twelve panels of a closed box between two corners, normals outwards.
+std::vector<triangle> box(v3<float> low, v3<float> high);
+
+/// A closed ellipsoid hull with semi-axes 20, 5 and 4 m about the origin: `around` meridians with
+/// `rings` edges from pole to pole, 2 * around * (rings - 1) panels.
+std::vector<triangle> ellipsoid(int around, int rings);
+
+/// Fills a mesh as a reader does, cut at z = 0 where it lies.
+void fillMesh(bodyMesh& mesh, std::vector<triangle> panels);

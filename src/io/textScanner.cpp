@@ -2,8 +2,12 @@
 
 #include "io/classicText.hpp"
 
+#include <algorithm>
 #include <charconv>
+#include <cstdint>
 #include <cstring>
+#include <iterator>
+#include <type_traits>
 
 namespace {
 
@@ -24,10 +28,70 @@ bool isNumeric(char c) {
     return isDigit(c) || c == '+' || c == '-' || c == '.' || c == 'e' || c == 'E';
 }
 
+/// Powers of ten and the largest whole number that T holds exactly: their quotient is the correctly
+/// rounded value (W. D. Clinger, How to read floating point numbers accurately, 1990).
+template <class T>
+struct exactRange;
+
+template <>
+struct exactRange<float> {
+    static constexpr std::uint64_t largest = 1U << 24;
+    static constexpr float powers[] = {1e0F, 1e1F, 1e2F, 1e3F, 1e4F, 1e5F,
+                                       1e6F, 1e7F, 1e8F, 1e9F, 1e10F};
+};
+
+template <>
+struct exactRange<double> {
+    static constexpr std::uint64_t largest = std::uint64_t(1) << 53;
+    static constexpr double powers[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                        1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                        1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+};
+
+/// Appends the decimal digits from `p` on to `number`, at most 18; returns the end of the digits.
+const char* readDigits(const char* p, const char* end, std::uint64_t& number) {
+    const char* last = p + std::min<std::ptrdiff_t>(18, end - p);
+    while (p != last && isDigit(*p)) {
+        number = 10 * number + static_cast<std::uint64_t>(*p++ - '0');
+    }
+    return p;
+}
+
+/// Reads a number of few digits without an exponent, which most are; nullptr for others.
+template <class T>
+const char* readShort(const char* begin, const char* end, T& value) {
+    using range = exactRange<T>;
+    const bool isNegative = *begin == '-';
+    const char* whole = begin + (isNegative ? 1 : 0);
+    std::uint64_t number = 0;
+    const char* last = readDigits(whole, end, number);
+    std::ptrdiff_t digits = last - whole;
+    std::ptrdiff_t decimals = 0;
+    if (last != end && *last == '.') {
+        const char* fraction = last + 1;
+        last = readDigits(fraction, end, number);
+        decimals = last - fraction;
+        digits += decimals;
+    }
+    const bool isComplete = last != end && !isNumeric(*last);
+    if (!isComplete || digits == 0 || digits > 18 || number > range::largest ||
+        decimals >= std::ptrdiff_t(std::size(range::powers))) {
+        return nullptr;
+    }
+    const T magnitude = static_cast<T>(number) / range::powers[decimals];
+    value = isNegative ? -magnitude : magnitude;
+    return last;
+}
+
 /// Reads a plain number in [begin, end), and returns where it ends; nullptr for whatever takes a
 /// closer look: no number, one out of range, or one that the stream would read further into.
 template <class T>
 const char* readPlain(const char* begin, const char* end, T& value) {
+    if constexpr (std::is_floating_point_v<T>) {
+        if (const char* last = readShort(begin, end, value)) {
+            return last;
+        }
+    }
     const char* digits = begin + (*begin == '-' ? 1 : 0);
     // Words such as "nan" are no numbers to the stream.
     if (digits == end || !(isDigit(*digits) || *digits == '.')) {
@@ -74,18 +138,26 @@ bool textScanner::refill() {
     in.read(block.data() + kept, static_cast<std::streamsize>(block.size() - kept));
     const auto added = static_cast<std::size_t>(in.gcount());
     end = next + kept + added;
+    taken += added;
     return added > 0;
 }
 
-void textScanner::skipSpaceCharacters() {
-    while (atCharacter() && isSpace(*next)) {
-        ++next;
-    }
+/// Moves on while the characters are white space, or while they are not; notes the end.
+template <bool space>
+void textScanner::skipWhile() {
+    do {
+        const char* p = next;
+        while (p != end && isSpace(*p) == space) {
+            ++p;
+        }
+        next = p;
+    } while (next == end && refill());
+    ended = next == end;
 }
 
 void textScanner::skipSpace() {
     if (startExtraction()) {
-        skipSpaceCharacters();
+        skipWhile<true>();
     }
 }
 
@@ -93,11 +165,10 @@ void textScanner::skipWord() {
     if (!startExtraction()) {
         return;
     }
-    skipSpaceCharacters();
+    skipWhile<true>();
     hasFailed = ended;
-    while (!ended && !isSpace(*next)) {
-        ++next;
-        atCharacter();
+    if (!ended) {
+        skipWhile<false>();
     }
 }
 
@@ -126,7 +197,7 @@ bool textScanner::read(T& value) {
     if (!startExtraction()) {
         return false;
     }
-    skipSpaceCharacters();
+    skipWhile<true>();
     if (ended) {
         hasFailed = true;
         return false;

@@ -17,6 +17,8 @@ public:
     /// Neither at the end nor failed.
     bool good() const { return !ended && !hasFailed; }
     bool failed() const { return hasFailed; }
+    /// Characters read so far.
+    std::size_t position() const { return taken - static_cast<std::size_t>(end - next); }
 
     /// As `in >> std::ws`.
     void skipSpace();
@@ -37,7 +39,8 @@ private:
     bool startExtraction();
     bool atCharacter();
     bool refill();
-    void skipSpaceCharacters();
+    template <bool space>
+    void skipWhile();
     template <class T>
     bool readAsStream(T& value);
 
@@ -45,6 +48,7 @@ private:
     std::vector<char> block;
     const char* next;
     const char* end;
+    std::size_t taken = 0; ///< characters that the block has held so far
     bool ended = false;
     bool hasFailed;
 };

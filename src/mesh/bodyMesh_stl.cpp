@@ -1,6 +1,6 @@
 #include "mesh/bodyMesh.hpp"
 
-#include "io/memoryCheck.hpp"
+#include "io/memory.hpp"
 #include "io/printer.hpp"
 #include "io/textScanner.hpp"
 #include "io/textWriter.hpp"
@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <limits>
@@ -31,6 +32,8 @@ constexpr std::size_t countSize = 4;
 constexpr std::size_t floatsPerFacet = 12;
 constexpr std::size_t facetSize = floatsPerFacet * sizeof(float) + 2;
 constexpr std::size_t facetsPerBlock = 4096;
+/// Facets of a text file from which the number of the others is estimated.
+constexpr int facetsToGoBy = 256;
 /// The attribute of every facet written.
 constexpr char attribute[] = {0x30, 0x00};
 /// A mesh that holds more panels than this is not read into.
@@ -151,6 +154,17 @@ triangle readFacet(textScanner& in) {
     return triangle(values);
 }
 
+/// Makes room for the facets that the rest of the file will hold, if they take as much text as
+/// those before them.
+void reserveForRest(std::string const& file, std::size_t textRead, std::vector<triangle>& faces) {
+    std::error_code failed;
+    const auto size = std::filesystem::file_size(file, failed);
+    if (!failed && size > textRead) {
+        const std::size_t perFacet = textRead / faces.size();
+        memory::reserve(faces, static_cast<std::size_t>(size) / perFacet + faces.size());
+    }
+}
+
 /// Whether the next line begins a facet: an F, small or capital.
 bool isFacetNext(textScanner& in) {
     constexpr int lowerCaseBit = 0x20;
@@ -200,7 +214,9 @@ bool bodyMesh::stl_read_ascii(std::string const& file) {
         // `nFaces` is that of an earlier read: only a mesh that is full already is left alone.
         while (nFaces <= mostPanels) {
             faces.push_back(readFacet(in));
-            ++count;
+            if (++count == facetsToGoBy) {
+                reserveForRest(file, in.position(), faces);
+            }
             if (!isFacetNext(in)) {
                 break;
             }
@@ -217,12 +233,12 @@ bool bodyMesh::stl_read(std::string const& file) {
     in.read(head, sizeof head);
     const std::uint32_t count = loadWord(head + headerSize);
     if (count > std::uint32_t(std::numeric_limits<int>::max()) ||
-        !memoryCanHold(count, panelMemory)) {
+        !memory::canHold(count, panelMemory)) {
         printer::fatalError(file + " announces " + std::to_string(count) +
                             " facets, more than memory can hold.");
     }
     faces.clear();
-    faces.reserve(count);
+    memory::reserve(faces, count);
     readFacets(in, count, faces);
     nFaces = static_cast<int>(count);
     return in.good();

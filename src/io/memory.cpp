@@ -1,0 +1,44 @@
+#include "io/memory.hpp"
+
+#include <cstdint>
+#include <limits>
+#include <memory>
+#include <new>
+
+#include <unistd.h>
+#ifdef __linux__
+#include <sys/mman.h>
+#endif
+
+bool memory::canHold(std::size_t count, std::size_t bytes) {
+    if (bytes != 0 && count > std::numeric_limits<std::size_t>::max() / bytes) {
+        return false;
+    }
+    const std::size_t total = count * bytes;
+    // The system may promise more than it has: what exceeds the machine is refused here.
+    const long pages = sysconf(_SC_PHYS_PAGES);
+    const long pageSize = sysconf(_SC_PAGESIZE);
+    if (pages > 0 && pageSize > 0 &&
+        total / static_cast<std::size_t>(pageSize) >= static_cast<std::size_t>(pages)) {
+        return false;
+    }
+    const std::unique_ptr<char[]> trial(new (std::nothrow) char[total]);
+    return trial != nullptr;
+}
+
+void memory::willUse(const void* begin, std::size_t bytes) {
+#ifdef MADV_HUGEPAGE
+    constexpr std::size_t smallest = std::size_t(4) << 20;
+    const long pageSize = sysconf(_SC_PAGESIZE);
+    if (bytes < smallest || pageSize <= 0) {
+        return;
+    }
+    const auto page = static_cast<std::uintptr_t>(pageSize);
+    const auto first = (reinterpret_cast<std::uintptr_t>(begin) + page - 1) / page * page;
+    const auto last = (reinterpret_cast<std::uintptr_t>(begin) + bytes) / page * page;
+    madvise(reinterpret_cast<void*>(first), last - first, MADV_HUGEPAGE);
+#else
+    static_cast<void>(begin);
+    static_cast<void>(bytes);
+#endif
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+/// Questions about, and hints to, the system's memory.
+namespace memory {
+
+/// Whether `count` items of `bytes` each can be had: asked before a count that some file announces
+/// is believed.
+bool canHold(std::size_t count, std::size_t bytes);
+
+/// Hints that the `bytes` from `begin` on will all be used, so that the system may map them in
+/// large pages: touching them for the first time is a good part of reading a large file.
+void willUse(const void* begin, std::size_t bytes);
+
+/// Reserves room for `count` items that will be used.
+template <class T>
+void reserve(std::vector<T>& items, std::size_t count) {
+    items.reserve(count);
+    willUse(items.data(), items.capacity() * sizeof(T));
+}
+
+} // namespace memory

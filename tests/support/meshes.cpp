@@ -31,10 +31,10 @@ std::vector<triangle> ellipsoid(int around, int rings) {
     for (int i = 0; i < around; ++i) {
         for (int j = 0; j < rings; ++j) {
             if (j > 0) {
-                panels.emplace_back(point(i, j), point(i, j + 1), point(i + 1, j));
+                panels.emplace_back(point(i, j), point(i + 1, j), point(i, j + 1));
             }
             if (j < rings - 1) {
-                panels.emplace_back(point(i + 1, j), point(i, j + 1), point(i + 1, j + 1));
+                panels.emplace_back(point(i + 1, j), point(i + 1, j + 1), point(i, j + 1));
             }
         }
     }

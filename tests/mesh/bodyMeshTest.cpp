@@ -1,0 +1,178 @@
+#include "mesh/bodyMesh.hpp"
+#include "support/files.hpp"
+#include "support/meshes.hpp"
+#include "support/program.hpp"
+
+#include <cmath>
+#include <vector>
+
+namespace {
+
+constexpr double density = 1025;
+constexpr double gravity = 9.81;
+
+/// A box of 4 x 2 x 3 m, its bottom at z = -1, read back from a file.
+struct boxFile {
+    temporaryFolder folder;
+    std::string name = folder.path("box.stl");
+    boxFile() {
+        bodyMesh mesh;
+        fillMesh(mesh, box({-2, -1, -1}, {2, 1, 2}));
+        mesh.stl_print(name, false);
+    }
+};
+
+double wetArea(bodyMesh const& mesh) {
+    double sum = 0;
+    for (const triangle* panel : mesh.wetFaces) {
+        sum += panel->area;
+    }
+    return sum;
+}
+
+TEST(bodyMesh, placesAndCutsWhatItReads) {
+    const boxFile file;
+    struct placement {
+        std::vector<double> origin, position;
+        double level;
+        double depth; ///< of the bottom below the level [m]
+    };
+    const placement cases[] = {{{0, 0, 0}, {0, 0, 0}, 0, 1},
+                               {{0, 0, -2}, {0, 0, 0}, 1.5, 0.5},
+                               {{0, 0, 0}, {0, 0, -1}, 0, 2},
+                               {{5, 6, 1}, {7, 8, -1}, 0.25, 3}};
+    for (const placement& c : cases) {
+        const bodyMesh mesh(file.name, c.origin, c.position, c.level);
+        EXPECT_NEAR(wetArea(mesh), c.depth < 3 ? 8 + 12 * c.depth : 52, 1e-5) << c.level;
+        EXPECT_NEAR(mesh.totalArea, 52, 1e-5);
+        EXPECT_EQ(mesh.faces[0].vertexA.x, static_cast<float>(-2 - c.origin[0]));
+        EXPECT_EQ(mesh.origin.z, 0.0F);
+    }
+}
+
+TEST(bodyMesh, movesToItsPosition) {
+    const boxFile file;
+    bodyMesh mesh(file.name, {0, 0, 0}, {10, 20, -0.5}, 0);
+    const double before = wetArea(mesh);
+    mesh.translate();
+    EXPECT_EQ(mesh.faces[0].vertexA.x, 8.0F);
+    EXPECT_EQ(mesh.faces[0].vertexA.z, -1.5F);
+    EXPECT_EQ(mesh.origin.y, 20.0F);
+    EXPECT_EQ(mesh.wetFaces.back()->vertexA.x, mesh.splitFaces.back().vertexA.x);
+    mesh.updateWetSurface(0);
+    EXPECT_NEAR(wetArea(mesh), before, 1e-5);
+    mesh.translate();
+    EXPECT_EQ(mesh.faces[0].vertexA.x, 8.0F);
+
+    // Turned about z by a quarter, then on to a half: only the change is applied.
+    const double quarter[] = {0, -1, 0, 1, 0, 0, 0, 0, 1};
+    const double half[] = {-1, 0, 0, 0, -1, 0, 0, 0, 1};
+    const v3<float> corner = mesh.faces[0].vertexA;
+    mesh.setRotation(quarter);
+    mesh.rotate();
+    EXPECT_EQ(mesh.faces[0].vertexA.x, -corner.y);
+    EXPECT_EQ(mesh.faces[0].vertexA.y, corner.x);
+    mesh.setRotation(half);
+    mesh.rotate();
+    EXPECT_EQ(mesh.faces[0].vertexA.x, -corner.x);
+    EXPECT_EQ(mesh.faces[0].vertexA.y, -corner.y);
+}
+
+TEST(bodyMesh, mirrorsHalfHulls) {
+    bodyMesh mesh;
+    fillMesh(mesh, {triangle({0, 1, 0}, {0, 2, 0}, {3, 1, -1})});
+    mesh.mirrorY();
+    mesh.mirrorX();
+    ASSERT_EQ(mesh.nFaces, 4);
+    ASSERT_EQ(mesh.faces.size(), 4U);
+    const v3<float> n = mesh.faces[0].normal;
+    const float signs[][2] = {{1, 1}, {1, -1}, {-1, 1}, {-1, -1}};
+    for (std::size_t i = 0; i < 4; ++i) {
+        EXPECT_EQ(mesh.faces[i].normal.x, signs[i][0] * n.x) << i;
+        EXPECT_EQ(mesh.faces[i].normal.y, signs[i][1] * n.y) << i;
+        EXPECT_EQ(mesh.faces[i].normal.z, n.z) << i;
+    }
+    // The mirrored panel runs A, C, B.
+    EXPECT_EQ(mesh.faces[1].vertexB.x, 3.0F);
+    EXPECT_EQ(mesh.faces[1].vertexB.y, -1.0F);
+}
+
+TEST(bodyMesh, floatsByArchimedes) {
+    bodyMesh mesh;
+    fillMesh(mesh, ellipsoid(80, 40));
+    mesh.position = {0, 0, -0.5};
+    mesh.updateWetSurface(0.25);
+    double volume = 0;
+    for (const triangle* panel : mesh.wetFaces) {
+        // Of the prism between panel and level, which is 0.75 above the mesh's own zero.
+        volume -= (0.75 - static_cast<double>(panel->centroid.z)) *
+                  static_cast<double>(panel->areaVector.z);
+    }
+    std::vector<double> F;
+    mesh.FroudeKrylovForces(0.25, density * gravity, F);
+    ASSERT_EQ(F.size(), 6U);
+    EXPECT_NEAR(F[2], density * gravity * volume, 1e-4 * F[2]);
+    EXPECT_GT(F[2], 1e6);
+    for (const std::size_t i : {0U, 1U, 3U, 4U, 5U}) {
+        // The diagonals of the panels are not symmetric.
+        EXPECT_NEAR(F[i], 0, 5e-3 * F[2]) << i;
+    }
+}
+
+TEST(bodyMesh, turnsOffCentreLoadsIntoMoments) {
+    bodyMesh mesh;
+    fillMesh(mesh, {triangle({0, 0, -1}, {4, 1, -1}, {4, 2, -1}, {3, 3, -1})});
+    std::vector<double> F = {9, 9, 9, 9, 9, 9, 9};
+    mesh.FroudeKrylovForces(0, 2, F);
+    const double load = 2 * mesh.faces[0].area;
+    const double x = 11.0 / 3;
+    const double y = 2;
+    const std::vector<double> expected = {0, 0, load, y * load, -x * load, 0};
+    ASSERT_EQ(F.size(), 6U);
+    for (std::size_t i = 0; i < 6; ++i) {
+        EXPECT_NEAR(F[i], expected[i], 1e-5) << i;
+    }
+}
+
+TEST(bodyMesh, spreadsMassOverItsPanels) {
+    bodyMesh mesh;
+    fillMesh(mesh, ellipsoid(40, 20));
+    for (triangle& panel : mesh.faces) {
+        // A sphere of radius 2 about (1, 2, 3).
+        for (auto corner : {&triangle::vertexA, &triangle::vertexB, &triangle::vertexC}) {
+            v3<float>& p = panel.*corner;
+            p = {p.x / 10 + 1, p.y * 0.4F + 2, p.z / 2 + 3};
+        }
+        panel.update();
+    }
+    mesh.totalArea = mesh.surfaceArea();
+    const double m = 30;
+    const double shell = 2.0 / 3 * m * 4;
+    const std::vector<double> expected = {shell + 13 * m, -2 * m,         -3 * m,
+                                          -2 * m,         shell + 10 * m, -6 * m,
+                                          -3 * m,         -6 * m,         shell + 5 * m};
+    std::vector<double> inertia;
+    EXPECT_EQ(outputOf([&] { inertia = mesh.volumeInertia(m); }),
+              "WARNING: THIS FEATURE IS NOT YET IMPLEMENTED. Returning the shell inertia.\n");
+    EXPECT_EQ(inertia, mesh.shellInertia(m));
+    for (std::size_t i = 0; i < 9; ++i) {
+        EXPECT_NEAR(inertia[i], expected[i], 0.02 * shell) << i;
+    }
+}
+
+TEST(bodyMesh, givesGlobalCentres) {
+    bodyMesh mesh;
+    fillMesh(mesh, {triangle({0, 0, 0}, {3, 0, 0}, {0, 3, 0}),
+                    triangle({3, 3, 3}, {6, 3, 3}, {3, 6, 6})});
+    const double quarter[] = {0, -1, 0, 1, 0, 0, 0, 0, 1};
+    const double position[] = {10, 20, 30};
+    mesh.setRotation(quarter);
+    mesh.setPosition(position);
+    std::vector<double> centres;
+    mesh.faceCentresGlobal(centres, false);
+    EXPECT_EQ(centres, (std::vector<double>{9, 21, 30, 6, 24, 34}));
+    mesh.faceCentresGlobal(centres, true);
+    EXPECT_EQ(centres, (std::vector<double>{9, 6, 21, 24, 30, 34}));
+}
+
+} // namespace

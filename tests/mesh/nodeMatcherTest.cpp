@@ -1,0 +1,87 @@
+#include "mesh/nodeMatcher.hpp"
+
+#include <cmath>
+#include <limits>
+#include <random>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// Every corner against all nodes, in order.
+class plainScan {
+public:
+    std::vector<v3<float>> nodes;
+    std::vector<int> corners;
+
+    void addPanel(const v3<float> (&points)[3]) {
+        int found[3];
+        for (int i = 0; i < 3; ++i) {
+            found[i] = find(points[i]);
+        }
+        for (int i = 0; i < 3; ++i) {
+            if (found[i] == 0) {
+                nodes.push_back(points[i]);
+                found[i] = static_cast<int>(nodes.size());
+            }
+            corners.push_back(found[i]);
+        }
+    }
+
+private:
+    int find(v3<float> const& p) const {
+        for (std::size_t n = 0; n < nodes.size(); ++n) {
+            if (1e-5 > static_cast<double>(length(p - nodes[n]))) {
+                return static_cast<int>(n) + 1;
+            }
+        }
+        return 0;
+    }
+};
+
+/// Coordinates that come close to each other: a few places, each with offsets about the tolerance.
+float nearPlace(std::mt19937& random, std::vector<float> const& places) {
+    const float place = places[random() % places.size()];
+    const float offset = 4e-6F * static_cast<float>(static_cast<int>(random() % 9) - 4);
+    switch (random() % 4) {
+    case 0:
+        return std::nextafter(place, 2 * place);
+    case 1:
+        return place;
+    default:
+        return place + offset;
+    }
+}
+
+TEST(nodeMatcher, findsWhatAPlainScanFinds) {
+    const float infinity = std::numeric_limits<float>::infinity();
+    const std::vector<std::vector<float>> clouds = {
+        {0},
+        {0, -0.0F, 1.5258789e-5F, 3.0517578e-5F, -3.0517578e-5F, 1e-30F},
+        {1, 1.0000305F, 127.99999F, 128, 255.99998F, 256},
+        {1e4F, 1e7F, 1e9F, 1e12F, 1e20F, 3e38F, -3e38F},
+        {0, 1, infinity, -infinity, std::numeric_limits<float>::quiet_NaN()},
+    };
+    std::mt19937 random(17);
+    for (std::size_t cloud = 0; cloud < clouds.size(); ++cloud) {
+        for (int round = 0; round < 20; ++round) {
+            nodeMatcher matcher;
+            plainScan scan;
+            for (int panel = 0; panel < 150; ++panel) {
+                v3<float> points[3];
+                for (v3<float>& p : points) {
+                    p.x = nearPlace(random, clouds[cloud]);
+                    p.y = round % 2 == 0 ? 0.5F : nearPlace(random, clouds[cloud]);
+                    p.z = round % 4 < 2 ? -2 : nearPlace(random, clouds[cloud]);
+                }
+                matcher.addPanel(points[0], points[1], points[2]);
+                scan.addPanel(points);
+            }
+            ASSERT_EQ(matcher.corners(), scan.corners) << "cloud " << cloud << ", round " << round;
+            ASSERT_EQ(matcher.nodes().size(), scan.nodes.size());
+        }
+    }
+}
+
+} // namespace

@@ -1,0 +1,47 @@
+# shellcheck shell=bash disable=SC2034
+# Sourced by the other scripts: finds the Debian packages that a step needs, installs what is
+# missing where that is possible, and says what is missing where it is not.
+
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+build_packages=(g++ cmake ninja-build)
+test_packages=(libgtest-dev libgmock-dev)
+check_packages=(clang clang-format clang-tidy libclang-rt-dev libbenchmark-dev shellcheck git)
+
+is_installed() {
+    dpkg-query -W -f='${Status}' "$1" 2>/dev/null | grep -q 'install ok installed'
+}
+
+# require PACKAGE...: installs those that are missing.
+require() {
+    local package missing=()
+    command -v dpkg-query >/dev/null || return 0
+    for package in "$@"; do
+        is_installed "$package" || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return 0
+    if [ "$(id -u)" -ne 0 ]; then
+        echo "Missing packages: ${missing[*]}" >&2
+        echo "Install them with: sudo apt-get install ${missing[*]}" >&2
+        exit 1
+    fi
+    echo "Installing ${missing[*]}"
+    apt-get update -qq
+    DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
+        "${missing[@]}" >/dev/null
+}
+
+# build PRESET [TARGET...]: configures and builds quietly; shows the log where it fails.
+build() {
+    local preset=$1 log
+    shift
+    log=$(mktemp)
+    if ! { cmake --preset "$preset" && cmake --build --preset "$preset" ${1:+--target "$@"}; } \
+        >"$log" 2>&1; then
+        cat "$log"
+        rm -f "$log"
+        exit 1
+    fi
+    rm -f "$log"
+}

@@ -6,13 +6,13 @@
 #include <charconv>
 #include <cstdint>
 #include <cstring>
-#include <iterator>
 #include <type_traits>
 
 namespace {
 
 constexpr std::size_t blockSize = std::size_t(1) << 18;
-/// Characters in the block from which on a number is tried without asking for more.
+/// Characters in the block from which on a number is tried without asking for more; enough for a
+/// sign, a point and two runs of digits.
 constexpr std::ptrdiff_t usualLength = 48;
 
 bool isSpace(char c) {
@@ -36,65 +36,85 @@ struct exactRange;
 template <>
 struct exactRange<float> {
     static constexpr std::uint64_t largest = 1U << 24;
-    static constexpr float powers[] = {1e0F, 1e1F, 1e2F, 1e3F, 1e4F, 1e5F,
-                                       1e6F, 1e7F, 1e8F, 1e9F, 1e10F};
+    static constexpr float powers[] = {1e0F, 1e1F, 1e2F, 1e3F, 1e4F, 1e5F, 1e6F, 1e7F, 1e8F};
 };
 
 template <>
 struct exactRange<double> {
     static constexpr std::uint64_t largest = std::uint64_t(1) << 53;
-    static constexpr double powers[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                        1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
-                                        1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+    static constexpr double powers[] = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8};
 };
 
-/// Appends the decimal digits from `p` on to `number`, at most 18; returns the end of the digits.
-const char* readDigits(const char* p, const char* end, std::uint64_t& number) {
-    const char* last = p + std::min<std::ptrdiff_t>(18, end - p);
-    while (p != last && isDigit(*p)) {
-        number = 10 * number + static_cast<std::uint64_t>(*p++ - '0');
+/// A run of at most 8 decimal digits.
+struct digitRun {
+    std::uint64_t value;
+    int length;
+};
+
+/// The digits from `p` on, where 8 characters can be read: all at once, since a loop over numbers
+/// of changing length is mostly mispredicted branches.
+digitRun readDigits(const char* p) {
+    constexpr std::uint64_t bytes = 0x0101010101010101U;
+    std::uint64_t text = 0;
+    for (int i = 7; i >= 0; --i) {
+        text = text << 8 | static_cast<unsigned char>(p[i]);
     }
-    return p;
+    // By byte: 0 to 9 for a digit; for others the top bit is set in `stops`, of which the lowest
+    // counts.
+    text ^= bytes * '0';
+    const std::uint64_t stops = ((text + bytes * (0x80 - 10)) | text) & (bytes * 0x80);
+    const int length = stops == 0 ? 8 : __builtin_ctzll(stops) / 8;
+    if (length == 0) {
+        return {0, 0};
+    }
+    // Digits to the upper end, zeros before them; then pairs, fours and all eight are joined.
+    text <<= 8 * (8 - length);
+    text = text * 10 + (text >> 8);
+    constexpr std::uint64_t pairs = 0x000000FF000000FFU;
+    text = ((text & pairs) * (100 + (std::uint64_t(1000000) << 32)) +
+            ((text >> 16) & pairs) * (1 + (std::uint64_t(10000) << 32))) >>
+           32;
+    return {text, length};
 }
 
-/// Reads a number of few digits without an exponent, which most are; nullptr for others.
+/// Reads a number of few digits without an exponent, which most are; nullptr for others. There are
+/// at least `usualLength` characters.
 template <class T>
-const char* readShort(const char* begin, const char* end, T& value) {
+const char* readShort(const char* begin, T& value) {
     using range = exactRange<T>;
+    static constexpr std::uint64_t shifts[] = {1,      10,      100,      1000,     10000,
+                                               100000, 1000000, 10000000, 100000000};
     const bool isNegative = *begin == '-';
-    const char* whole = begin + (isNegative ? 1 : 0);
-    std::uint64_t number = 0;
-    const char* last = readDigits(whole, end, number);
-    std::ptrdiff_t digits = last - whole;
-    std::ptrdiff_t decimals = 0;
-    if (last != end && *last == '.') {
-        const char* fraction = last + 1;
-        last = readDigits(fraction, end, number);
-        decimals = last - fraction;
-        digits += decimals;
+    const char* last = begin + (isNegative ? 1 : 0);
+    const digitRun whole = readDigits(last);
+    digitRun decimals{0, 0};
+    last += whole.length;
+    if (*last == '.') {
+        decimals = readDigits(++last);
+        last += decimals.length;
     }
-    const bool isComplete = last != end && !isNumeric(*last);
-    if (!isComplete || digits == 0 || digits > 18 || number > range::largest ||
-        decimals >= std::ptrdiff_t(std::size(range::powers))) {
+    const std::uint64_t number = whole.value * shifts[decimals.length] + decimals.value;
+    if (whole.length + decimals.length == 0 || isNumeric(*last) || number > range::largest) {
         return nullptr;
     }
-    const T magnitude = static_cast<T>(number) / range::powers[decimals];
+    const T magnitude = static_cast<T>(number) / range::powers[decimals.length];
     value = isNegative ? -magnitude : magnitude;
     return last;
 }
 
-/// Reads a plain number in [begin, end), and returns where it ends; nullptr for whatever takes a
-/// closer look: no number, one out of range, or one that the stream would read further into.
+/// Reads a plain number in [begin, end), of `usualLength` at least, and returns where it ends;
+/// nullptr for whatever takes a closer look: no number, one out of range, or one that the stream
+/// would read further into.
 template <class T>
 const char* readPlain(const char* begin, const char* end, T& value) {
     if constexpr (std::is_floating_point_v<T>) {
-        if (const char* last = readShort(begin, end, value)) {
+        if (const char* last = readShort(begin, value)) {
             return last;
         }
     }
     const char* digits = begin + (*begin == '-' ? 1 : 0);
     // Words such as "nan" are no numbers to the stream.
-    if (digits == end || !(isDigit(*digits) || *digits == '.')) {
+    if (!(isDigit(*digits) || *digits == '.')) {
         return nullptr;
     }
     T number(0);

@@ -142,7 +142,7 @@ int bodyMesh::nemoh_print(std::string const& file, bool wetOnly) const {
 }
 
 int bodyMesh::nemoh_write(std::ostream& stream) const {
-    nodeMatcher matcher;
+    nodeMatcher matcher(wetFaces.size());
     for (triangle const* panel : wetFaces) {
         matcher.addPanel(panel->vertexA, panel->vertexB, panel->vertexC);
     }

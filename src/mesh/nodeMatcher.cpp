@@ -6,9 +6,10 @@
 
 namespace {
 
-/// Cells per metre, a power of two so that scaling is exact. Two tolerances are less than a cell:
-/// a corner reaches into two cells at most along an axis.
-constexpr double cellsPerMetre = 32768;
+/// Cells per metre, a power of two so that scaling is exact. A corner then reaches into two cells
+/// at most along an axis, and mostly into one; and a cell holds no more nodes than fit into it at
+/// the distance of the tolerance.
+constexpr double cellsPerMetre = 8192;
 /// Somewhat more than the tolerance, for the rounding of distances.
 constexpr double reach = 1.1e-5;
 static_assert(2 * reach * cellsPerMetre < 1, "a corner reaches into two cells along an axis");
@@ -27,20 +28,11 @@ double cellOf(double coordinate) {
     return std::floor(coordinate * cellsPerMetre + 0.5);
 }
 
-std::uint64_t mix(std::uint64_t hash, std::uint64_t value) {
-    hash = (hash ^ value) * 0x9E3779B97F4A7C15U;
-    return hash ^ (hash >> 32);
-}
-
-std::uint64_t bitsOf(double value) {
+std::uint64_t mix(std::uint64_t hash, double value) {
     std::uint64_t bits = 0;
     std::memcpy(&bits, &value, sizeof bits);
-    return bits;
-}
-
-/// Different triples may share a key: whoever finds a node under it compares coordinates.
-std::uint64_t keyOf(double x, double y, double z) {
-    return mix(mix(mix(1, bitsOf(x)), bitsOf(y)), bitsOf(z));
+    hash = (hash ^ bits) * 0x9E3779B97F4A7C15U;
+    return hash ^ (hash >> 32);
 }
 
 bool isSame(v3<float> const& a, v3<float> const& b) {
@@ -50,12 +42,6 @@ bool isSame(v3<float> const& a, v3<float> const& b) {
 /// The lower of two nodes, 0 being none.
 int lower(int a, int b) {
     return a == 0 ? b : b == 0 ? a : std::min(a, b);
-}
-
-/// The key of the coordinates themselves; zeros of both signs are one.
-std::uint64_t exactKey(v3<float> const& p) {
-    return keyOf(static_cast<double>(p.x) + 0.0, static_cast<double>(p.y) + 0.0,
-                 static_cast<double>(p.z) + 0.0);
 }
 
 /// The one or two cells that a coordinate's tolerance reaches into.
@@ -78,6 +64,18 @@ struct cellRange {
 
 } // namespace
 
+nodeMatcher::nodeMatcher(std::size_t panels) {
+    // A closed hull has half as many nodes as panels: half of the buckets stay empty.
+    std::size_t size = 1024;
+    while (size < panels) {
+        size *= 2;
+    }
+    buckets.resize(size);
+    allNodes.reserve(panels / 2);
+    links.reserve(panels / 2);
+    allCorners.reserve(3 * panels);
+}
+
 void nodeMatcher::addPanel(v3<float> const& a, v3<float> const& b, v3<float> const& c) {
     const v3<float> points[] = {a, b, c};
     int found[3];
@@ -85,12 +83,13 @@ void nodeMatcher::addPanel(v3<float> const& a, v3<float> const& b, v3<float> con
         found[i] = find(points[i]);
     }
     for (int i = 0; i < 3; ++i) {
-        // A node of this very panel in front of a new one would be the lower match of later
-        // corners.
-        const bool isShadowed = std::any_of(points, points + i, [&](v3<float> const& earlier) {
-            return isNear(points[i], earlier);
-        });
-        allCorners.push_back(found[i] != 0 ? found[i] : add(points[i], !isShadowed));
+        if (found[i] == 0) {
+            // A node of this very panel in front of it would be the lower match of later corners.
+            const bool isShadowed = std::any_of(
+                points, points + i, [&](v3<float> const& p) { return isNear(points[i], p); });
+            found[i] = add(points[i], !isShadowed);
+        }
+        allCorners.push_back(found[i]);
     }
 }
 
@@ -99,9 +98,10 @@ int nodeMatcher::find(v3<float> const& p) const {
     if (!isFinite(p)) {
         return 0;
     }
-    const int same = exact.find(exactKey(p));
-    if (same != 0 && isSame(p, nodeAt(same))) {
-        return same;
+    for (int n = buckets[bucketOf(p)]; n != 0; n = nextOf(n)) {
+        if (isLowest(n) && isSame(p, at(n))) {
+            return n;
+        }
     }
     int lowest = 0;
     const cellRange xs(p.x);
@@ -109,70 +109,53 @@ int nodeMatcher::find(v3<float> const& p) const {
     const cellRange zs(p.z);
     xs.forEach([&](double x) {
         ys.forEach([&](double y) {
-            zs.forEach([&](double z) { lowest = lower(lowest, lowestInCell(keyOf(x, y, z), p)); });
+            zs.forEach([&](double z) { lowest = lower(lowest, lowestIn(bucketOf(x, y, z), p)); });
         });
     });
     return lowest;
 }
 
-int nodeMatcher::lowestInCell(std::uint64_t cell, v3<float> const& p) const {
+int nodeMatcher::lowestIn(std::size_t bucket, v3<float> const& p) const {
     int lowest = 0;
-    for (int n = cells.find(cell); n != 0; n = nextInCell[static_cast<std::size_t>(n) - 1]) {
-        if (isNear(p, nodeAt(n))) {
+    for (int n = buckets[bucket]; n != 0; n = nextOf(n)) {
+        if (isNear(p, at(n))) {
             lowest = lower(lowest, n);
         }
     }
     return lowest;
 }
 
-/// Adds a node; `isLowest` says that no lower one is near it.
-int nodeMatcher::add(v3<float> const& p, bool isLowest) {
+/// Adds a node; `lowest` says that no lower one is near it.
+int nodeMatcher::add(v3<float> const& p, bool lowest) {
     allNodes.push_back(p);
-    nextInCell.push_back(0);
+    links.push_back(lowest ? 1 : 0);
     const auto node = static_cast<int>(allNodes.size());
-    // Nothing is near a point that is not finite.
-    if (isFinite(p)) {
-        int& latest =
-            cells.at(keyOf(cellOf(static_cast<double>(p.x)), cellOf(static_cast<double>(p.y)),
-                           cellOf(static_cast<double>(p.z))));
-        nextInCell.back() = latest;
-        latest = node;
-        if (isLowest) {
-            exact.at(exactKey(p)) = node;
-        }
+    if (allNodes.size() <= buckets.size()) {
+        putInBucket(node);
+        return node;
+    }
+    buckets.assign(2 * buckets.size(), 0);
+    for (int n = 1; n <= node; ++n) {
+        links[static_cast<std::size_t>(n) - 1] %= 2;
+        putInBucket(n);
     }
     return node;
 }
 
-std::size_t nodeMatcher::table::place(std::uint64_t key) const {
-    const std::size_t mask = slots.size() - 1;
-    auto i = static_cast<std::size_t>(key) & mask;
-    while (slots[i].node != 0 && slots[i].key != key) {
-        i = (i + 1) & mask;
+/// Nothing is near a node that is not finite: it is in no bucket.
+void nodeMatcher::putInBucket(int node) {
+    if (isFinite(at(node))) {
+        int& latest = buckets[bucketOf(at(node))];
+        links[static_cast<std::size_t>(node) - 1] += 2 * latest;
+        latest = node;
     }
-    return i;
 }
 
-int nodeMatcher::table::find(std::uint64_t key) const {
-    return slots[place(key)].node;
+std::size_t nodeMatcher::bucketOf(double x, double y, double z) const {
+    return static_cast<std::size_t>(mix(mix(mix(1, x), y), z)) & (buckets.size() - 1);
 }
 
-int& nodeMatcher::table::at(std::uint64_t key) {
-    if (2 * used >= slots.size()) {
-        grow();
-    }
-    slot& s = slots[place(key)];
-    used += s.node == 0 ? 1 : 0;
-    s.key = key;
-    return s.node;
-}
-
-void nodeMatcher::table::grow() {
-    std::vector<slot> old(2 * slots.size());
-    old.swap(slots);
-    for (slot const& s : old) {
-        if (s.node != 0) {
-            slots[place(s.key)] = s;
-        }
-    }
+std::size_t nodeMatcher::bucketOf(v3<float> const& p) const {
+    return bucketOf(cellOf(static_cast<double>(p.x)), cellOf(static_cast<double>(p.y)),
+                    cellOf(static_cast<double>(p.z)));
 }

@@ -17,6 +17,9 @@ public:
     /// Corners match when 1e-5 is greater than their distance [m].
     static constexpr double tolerance = 1e-5;
 
+    /// `panels` is the number of panels to expect.
+    explicit nodeMatcher(std::size_t panels = 0);
+
     /// Appends the node numbers, from 1, of the three corners of a panel. Corners of the same panel
     /// are matched with the nodes of earlier panels only, never with each other.
     void addPanel(v3<float> const& a, v3<float> const& b, v3<float> const& c);
@@ -27,37 +30,22 @@ public:
     std::vector<int> const& corners() const { return allCorners; }
 
 private:
-    /// Open addressing from 64-bit keys to node numbers; 0 is empty.
-    class table {
-    public:
-        /// The place of `key`, or the empty one where it belongs, valid until the next call.
-        int& at(std::uint64_t key);
-        /// The number under `key`, 0 where there is none.
-        int find(std::uint64_t key) const;
-
-    private:
-        struct slot {
-            std::uint64_t key = 0;
-            int node = 0;
-        };
-        std::size_t place(std::uint64_t key) const;
-        void grow();
-        std::vector<slot> slots = std::vector<slot>(1024);
-        std::size_t used = 0;
-    };
-
-    v3<float> const& nodeAt(int number) const {
-        return allNodes[static_cast<std::size_t>(number) - 1];
-    }
     int find(v3<float> const& p) const;
-    int lowestInCell(std::uint64_t cell, v3<float> const& p) const;
-    int add(v3<float> const& p, bool isLowest);
+    int lowestIn(std::size_t bucket, v3<float> const& p) const;
+    int add(v3<float> const& p, bool lowest);
+    void putInBucket(int node);
+    std::size_t bucketOf(double x, double y, double z) const;
+    std::size_t bucketOf(v3<float> const& p) const;
+    int nextOf(int node) const { return links[static_cast<std::size_t>(node) - 1] / 2; }
+    bool isLowest(int node) const { return links[static_cast<std::size_t>(node) - 1] % 2 != 0; }
+    v3<float> const& at(int node) const { return allNodes[static_cast<std::size_t>(node) - 1]; }
 
     std::vector<v3<float>> allNodes;
+    /// By node: twice the node before it in its bucket (0: none), plus 1 where no lower node is
+    /// near it, so that it is the match of its own coordinates.
+    std::vector<int> links;
     std::vector<int> allCorners;
-    std::vector<int> nextInCell; ///< by node: the node before it in its cell, or 0
-    table cells;                 ///< by cell: its latest node
-    /// By coordinates: the node that has them and is the lowest near itself, so that it stays the
-    /// match of a corner with these coordinates.
-    table exact;
+    /// The latest node of each bucket, or 0. A bucket holds the nodes of one cell, and now and then
+    /// of others; a power of two of them, at least as many as nodes.
+    std::vector<int> buckets;
 };

@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <limits>
+#include <numeric>
 #include <random>
 #include <vector>
 
@@ -56,7 +57,7 @@ float nearPlace(std::mt19937& random, std::vector<float> const& places) {
 
 TEST(nodeMatcher, findsWhatAPlainScanFinds) {
     const float infinity = std::numeric_limits<float>::infinity();
-    const std::vector<std::vector<float>> clouds = {
+    std::vector<std::vector<float>> clouds = {
         {0},
         {0, -0.0F, 1.5258789e-5F, 3.0517578e-5F, -3.0517578e-5F, 1e-30F},
         {1, 1.0000305F, 127.99999F, 128, 255.99998F, 256},
@@ -64,11 +65,14 @@ TEST(nodeMatcher, findsWhatAPlainScanFinds) {
         {0, 1, infinity, -infinity, std::numeric_limits<float>::quiet_NaN()},
     };
     std::mt19937 random(17);
+    // Many places, for more nodes than the matcher has room for at first.
+    clouds.emplace_back(3000);
+    std::iota(clouds.back().begin(), clouds.back().end(), -1500.0F);
     for (std::size_t cloud = 0; cloud < clouds.size(); ++cloud) {
         for (int round = 0; round < 20; ++round) {
             nodeMatcher matcher;
             plainScan scan;
-            for (int panel = 0; panel < 150; ++panel) {
+            for (std::size_t panel = 150 + clouds[cloud].size() / 10; panel > 0; --panel) {
                 v3<float> points[3];
                 for (v3<float>& p : points) {
                     p.x = nearPlace(random, clouds[cloud]);

@@ -70,15 +70,16 @@ template double inputMap::read(const std::string&, const double&) const;
 template int inputMap::read(const std::string&, const int&) const;
 template std::vector<double> inputMap::read(const std::string&, const std::vector<double>&) const;
 
-void inputMap::set(std::string key, std::string value) {
+void inputMap::set(const std::string& key, const std::string& value) {
     if (value.find(assign) == std::string::npos) {
         map[key] = value;
         return;
     }
     classicText text(value);
     const inputMap entries(text, sorvikIO::assignmentDLM, sorvikIO::memberDLM);
+    const std::string prefix = key + sorvikIO::memberDLM;
     for (const auto& [subKey, subValue] : entries.map) {
-        set(key + sorvikIO::memberDLM + subKey, subValue);
+        set(prefix + subKey, subValue);
     }
 }
 
@@ -99,7 +100,7 @@ void inputMap::print(std::string outName) const {
     }
 }
 
-std::vector<std::string> inputMap::getKeys(std::string word) const {
+std::vector<std::string> inputMap::getKeys(const std::string& word) const {
     const std::string marker = word + "Type";
     std::vector<std::string> names;
     for (const auto& [key, value] : map) {

@@ -29,7 +29,7 @@ public:
 
     /// Sets `key`, overwriting. A value that holds an assignment is read as input text, and its
     /// entries are set as `key`.subKey.
-    void set(std::string key, std::string value);
+    void set(const std::string& key, const std::string& value);
 
     /// Writes the map as JSON; nothing unless `outName` contains ".json". The name ".json" alone
     /// means the map's own file name with that extension. A file that cannot be written is fatal.
@@ -37,7 +37,7 @@ public:
 
     /// The distinct names in front of, or made by, `word`: for every key with a component that
     /// begins with `word`, that component without the marker `word` + "Type".
-    std::vector<std::string> getKeys(std::string word) const;
+    std::vector<std::string> getKeys(const std::string& word) const;
 
 private:
     std::string fileName = "inputMap.txt";

@@ -33,10 +33,11 @@ void memory::willUse(const void* begin, std::size_t bytes) {
     if (bytes < smallest || pageSize <= 0) {
         return;
     }
-    const auto page = static_cast<std::uintptr_t>(pageSize);
-    const auto first = (reinterpret_cast<std::uintptr_t>(begin) + page - 1) / page * page;
-    const auto last = (reinterpret_cast<std::uintptr_t>(begin) + bytes) / page * page;
-    madvise(reinterpret_cast<void*>(first), last - first, MADV_HUGEPAGE);
+    // The system asks for a whole number of pages.
+    const auto page = static_cast<std::size_t>(pageSize);
+    const std::size_t lead = page - reinterpret_cast<std::uintptr_t>(begin) % page;
+    char* first = const_cast<char*>(static_cast<const char*>(begin)) + lead;
+    madvise(first, (bytes - lead) / page * page, MADV_HUGEPAGE);
 #else
     static_cast<void>(begin);
     static_cast<void>(bytes);

@@ -80,7 +80,7 @@ void printer::printMatrix(std::ostream& os, const int& rows, const int& cols,
     printMatrix(os, rows, cols, data.data());
 }
 
-void printer::printMatrix(const int& rows, const int& cols, std::vector<std::string> cells,
+void printer::printMatrix(const int& rows, const int& cols, const std::vector<std::string>& cells,
                           const std::string& title) {
     printHeader(title);
     auto cell = cells.cbegin();

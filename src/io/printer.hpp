@@ -29,7 +29,7 @@ public:
                             const std::string& title);
     static void printMatrix(const int& rows, const int& cols, const std::vector<double>& data,
                             const std::string& title);
-    static void printMatrix(const int& rows, const int& cols, std::vector<std::string> cells,
+    static void printMatrix(const int& rows, const int& cols, const std::vector<std::string>& cells,
                             const std::string& title);
 
     /// Writes the rows of a row-major matrix to `os`, every value after a tab, in the number format

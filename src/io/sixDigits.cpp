@@ -1,5 +1,6 @@
 #include "io/sixDigits.hpp"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
@@ -34,15 +35,16 @@ int decade(double magnitude) {
 /// trailing zeros.
 char* layOut(char* out, std::uint32_t number, int exponent) {
     char digits[6];
-    std::memcpy(digits, pairs + 2 * (number / 10000), 2);
-    std::memcpy(digits + 2, pairs + 2 * (number / 100 % 100), 2);
-    std::memcpy(digits + 4, pairs + 2 * (number % 100), 2);
+    const std::size_t n = number;
+    std::memcpy(digits, pairs + 2 * (n / 10000), 2);
+    std::memcpy(digits + 2, pairs + 2 * (n / 100 % 100), 2);
+    std::memcpy(digits + 4, pairs + 2 * (n % 100), 2);
     int count = 6;
     while (digits[count - 1] == '0') {
         --count;
     }
     if (exponent < 0) {
-        std::memcpy(out, "0.000", 5);
+        std::copy_n("0.000", 5, out);
         out += 1 - exponent;
         std::memcpy(out, digits, sizeof digits);
         return out + count;

@@ -103,9 +103,9 @@ std::vector<std::string> splitKey(const std::string& key);
 
 /// Searches `key = value` from the current position and returns the value, "KEY_NOT_FOUND" at the
 /// end of the stream. A key without a value ends the process with status 1.
-std::string findKey(std::istream& in, std::string key);
+std::string findKey(std::istream& in, const std::string& key);
 /// `findKey`, then `alternativeKey`, both from the current position.
-std::string lookupKey(std::istream& in, std::string key);
+std::string lookupKey(std::istream& in, const std::string& key);
 /// Looks for a `source` entry of the leading components of `key`, the longest first, and retries
 /// the lookup under the name that it gives. "KEY_NOT_FOUND" when nothing is found.
 std::string alternativeKey(std::istream& in, const std::string& key);
@@ -120,7 +120,7 @@ std::string toJSON(std::map<std::string, std::string> map, int indent);
 std::string addJSONLine(const std::string& key, std::string value, int indent);
 /// The JSON form of a value text: a path as one string, else words as strings and numbers bare, a
 /// list in brackets where there are several. Nothing is escaped.
-std::string frmtJSONvalue(std::string value);
+std::string frmtJSONvalue(const std::string& value);
 /// The text after the last '/' or backslash.
 std::string fileNameFromPath(const std::string& path);
 

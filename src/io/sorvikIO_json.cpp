@@ -53,7 +53,7 @@ void checkDepth(const std::string& key) {
 }
 
 /// Appends the object; nested ones are written in place, so that no text is copied level by level.
-void appendObject(std::string& text, std::map<std::string, std::string> map, int indent) {
+void appendObject(std::string& text, std::map<std::string, std::string>&& map, int indent) {
     // By name: the entries of a nested object, with the name and the "." cut off their keys.
     std::map<std::string, std::map<std::string, std::string>> groups;
     const std::size_t start = text.size();
@@ -92,12 +92,12 @@ std::string sorvikIO::addJSONLine(const std::string& key, std::string value, int
     if (value.empty()) {
         value = "{}";
     } else if (value.front() != '{') {
-        value = frmtJSONvalue(std::move(value));
+        value = frmtJSONvalue(value);
     }
     return memberHead(key, indent) + value + ",\n";
 }
 
-std::string sorvikIO::frmtJSONvalue(std::string value) {
+std::string sorvikIO::frmtJSONvalue(const std::string& value) {
     std::vector<std::string> parts = words(value);
     if (isPath(value)) {
         return '"' + join(parts, " ") + '"';

@@ -35,7 +35,7 @@ void skipBlanks(std::istream& in) {
 
 } // namespace
 
-std::string sorvikIO::findKey(std::istream& in, std::string key) {
+std::string sorvikIO::findKey(std::istream& in, const std::string& key) {
     std::string word(key.size(), '\0');
     for (in >> std::ws; in.good(); in >> std::ws) {
         const std::streampos wordStart = in.tellg();
@@ -58,9 +58,9 @@ std::string sorvikIO::findKey(std::istream& in, std::string key) {
     return notFoundStr;
 }
 
-std::string sorvikIO::lookupKey(std::istream& in, std::string key) {
+std::string sorvikIO::lookupKey(std::istream& in, const std::string& key) {
     const std::streampos start = in.tellg();
-    const std::string value = findKey(in, key);
+    std::string value = findKey(in, key);
     if (value != notFoundStr) {
         return value;
     }
@@ -77,7 +77,7 @@ std::string sorvikIO::alternativeKey(std::istream& in, const std::string& key) {
         in.clear();
         in.seekg(start);
         if (source != notFoundStr) {
-            const std::string value = findKey(in, source + key.substr(cut));
+            std::string value = findKey(in, source + key.substr(cut));
             in.clear();
             in.seekg(start);
             return value;

@@ -111,8 +111,9 @@ std::map<std::string, std::string> readBlock(std::istream& in, char assign, char
         }
         viewBuffer buffer(value);
         std::istream text(&buffer);
+        const std::string prefix = key + member;
         for (auto& [subKey, subValue] : readBlock(text, assign, member, &block)) {
-            map.emplace(key + member + subKey, std::move(subValue));
+            map.emplace(prefix + subKey, std::move(subValue));
         }
     }
     return map;

@@ -41,7 +41,7 @@ constexpr int mostPanels = 499999;
 
 /// What one panel takes in memory: its fields, its open product, and its place in the wetted
 /// surface.
-constexpr std::size_t panelMemory = sizeof(triangle) + 9 * sizeof(double) + 16 + sizeof(triangle*);
+constexpr std::size_t panelMemory = sizeof(triangle) + 9 * sizeof(double) + 16 + sizeof(void*);
 
 std::uint32_t loadWord(const char* bytes) {
     std::uint32_t word = 0;

@@ -1,0 +1,121 @@
+#pragma once
+
+#include <complex>
+#include <fstream>
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+/// The project folder of a case for the boundary-element solver Nemoh: its control files are
+/// written, and they and the results are read back.
+///
+/// A project is written in the order `setEnv`, `addBody` once per body, `addLoadCases`,
+/// `addPostProc`; each call leaves whole sections in `Nemoh.cal`, so that a run that stops early
+/// leaves a readable file. Numbers have the default stream format of the classic locale.
+///
+/// Result files are looked for in `Results`, then in `results`. One that does not hold what the
+/// sizes and `Nemoh.cal` announce is a fatal error that names the file and the line.
+class nemohIO {
+public:
+    /// Makes the folder and in it `mesh` and `results`, unless they are there. The parent must
+    /// exist. `path` is used as it stands.
+    explicit nemohIO(std::string path);
+
+    // ---- Control files (nemohIO_cal.cpp) ----
+
+    /// The text of `value` and a blank, with a point between them where the value is an integer
+    /// of 32 bits: "1000. ", "9.81 ", "1e+06. ", "3e+09 ", "-0. ", "nan ".
+    static std::string printVal(double value);
+
+    /// What `printCalHdr` takes for a section without a number.
+    static constexpr int noNumber = -1;
+
+    /// Writes the header line of a section and rewrites `input_solver.txt`. A `Nemoh.cal` that
+    /// could not be opened, or an earlier section that could not be written, ends the process with
+    /// status 1.
+    void printCalHdr(const std::string& name, int number);
+
+    /// Opens `Nemoh.cal`, overwriting, and writes the environment and the number of bodies. `rho`
+    /// in kg/m³, `gravity` in m/s² (positive), `depth` and the point (x, y) of zero wave phase in
+    /// m.
+    void setEnv(double const& rho, double const& gravity, double const& depth, double const& x,
+                double const& y, int bodies);
+
+    /// Leaves its arguments as they are.
+    void getEnv(double& rho, double& gravity, double& depth, double& x, double& y) const;
+
+    /// Writes one body; `meshName` is relative to the project folder.
+    ///
+    /// `dofs` holds numbers from 1 to 6 (surge, sway, heave, roll, pitch, yaw) and serves for
+    /// motions and forces alike. `refPoint` holds x, y, z [m] of the point that rotations turn
+    /// about. `rotation` is empty or the 3 x 3 matrix, row-major, that turns the axes of the
+    /// degrees of freedom.
+    void addBody(const std::string& meshName, int points, int panels, std::vector<int> const& dofs,
+                 std::vector<double> const& refPoint, std::vector<double> const& rotation);
+
+    /// Writes the angular frequencies [rad/s] and the wave directions [degrees], evenly spaced
+    /// between the ends.
+    void addLoadCases(int freqs, double w0, double w1, int directions, double dir0, double dir1);
+
+    /// Writes the rest of the file. The impulse response is computed for a `step` [s] above 0, over
+    /// `duration` [s].
+    void addPostProc(double step, double duration);
+
+    /// Whether all that was written so far has reached `Nemoh.cal`.
+    bool isWritten() const { return cal.good(); }
+
+    // ---- Reading the case back (nemohIO_case.cpp) ----
+
+    /// Reads lines, blank ones skipped after each, until one begins with `key`; the stream then
+    /// stands at the line behind it. Returns the number of lines read, or -1 where no line does or
+    /// where nothing follows it.
+    static int skipToKey(std::istream& in, const std::string& key);
+
+    /// Skips the rest of the line and `count` - 1 more, blank ones not counted; nothing below 1.
+    static void skipLines(std::istream& in, int count);
+
+    /// Reads the load cases from `Nemoh.cal`, sizes and fills the vectors (rad/s and degrees) and
+    /// returns the number of bodies. A single frequency is not stored: its element keeps its value,
+    /// 0 in a vector that was empty. Counts above `maxCases` are fatal.
+    int readCase(int& freqs, std::vector<double>& frequencies, int& directions,
+                 std::vector<double>& angles) const;
+    static constexpr int maxCases = 1'000'000;
+
+    /// Reads from `Nemoh.cal` what is computed for a body, counted from 1; `refPoint` (x, y, z in
+    /// m) is that of its last motion. Returns 0, or -1 where the body or its counts are not found;
+    /// a count that is not found is -1.
+    int readBody(int body, int& motions, int& forces, std::vector<double>& refPoint) const;
+
+    /// Appends the numbers of `folder`/KH.dat, 6 x 6 row-major for one body, to `stiffness`, up to
+    /// the end or the first word that is no number, and returns the displaced volume [m³] from
+    /// Hydrostatics.dat. A file that is missing is a warning, and a volume of -1.
+    static double readC(const std::string& folder, std::vector<double>& stiffness);
+
+    // ---- Coefficients and forces (nemohIO_results.cpp) ----
+    //
+    // Frequencies vary fastest, then forces (those of body 1, then of body 2, ...). With 2 bodies
+    // of 6 degrees of freedom and 10 frequencies, index (7 * 12 + 3) * 10 + 4 is the force 4 on
+    // body 1 due to motion 2 of body 2, at the fifth frequency.
+
+    /// Reads added mass and damping, (motion, force, frequency) each; the motions are those of all
+    /// `bodies`.
+    void readCoeffs(int freqs, int bodies, std::vector<double>& addedMass,
+                    std::vector<double>& damping) const;
+
+    /// Reads the amplitudes and phases [rad] of the excitation, (direction, force, frequency) each.
+    void readExcitation(int freqs, int directions, int bodies, std::vector<double>& amplitudes,
+                        std::vector<double>& phases) const;
+
+    /// Reads another force file, "DiffractionForce.tec" or "FKForce.tec", as
+    /// amplitude * exp(i phase), (direction, force, frequency), with `forces` on every body.
+    void readForce(const std::string& ending, int freqs, int directions, int bodies, int forces,
+                   std::vector<std::complex<double>>& values) const;
+
+    /// target[j * rows + i] = source[i * cols + j]; nothing where a size is below 1.
+    static void transposeTo(int rows, int cols, const double* source, double* target);
+
+private:
+    std::string folder;
+    std::fstream cal;
+    int nBodies = 0;
+};

@@ -1,0 +1,207 @@
+#include "nemoh/nemohIO.hpp"
+#include "support/files.hpp"
+#include "support/program.hpp"
+
+#include <cmath>
+#include <filesystem>
+#include <sstream>
+
+namespace {
+
+using numbers = std::vector<double>;
+
+struct nemohProject : testing::Test {
+    /// Writes the complete Nemoh.cal with `old` replaced by `by`.
+    void change(const std::string& old, const std::string& by) {
+        std::string text = readFile(SORVIK_TEST_DATA "/Nemoh.cal");
+        writeFile(project.path("Nemoh.cal"), text.replace(text.find(old), old.size(), by));
+    }
+    /// Describes a body with six degrees of freedom and another one with two.
+    void describeTwoBodies() {
+        nemoh.setEnv(1000, 9.81, 50, 0, 0, 2);
+        nemoh.addBody("a.dat", 0, 0, {1, 2, 3, 4, 5, 6}, {0, 0, 0}, {});
+        nemoh.addBody("b.dat", 0, 0, {3, 5}, {0, 0, 0}, {});
+    }
+    const temporaryFolder project;
+    nemohIO nemoh{project.path()};
+    int nFreqs = 0, nDirections = 0;
+    numbers first, second;
+};
+
+TEST(nemohIO, printsAPointBehindIntegersOf32Bits) {
+    std::string text;
+    for (const double value : {-0.0, 9.81, 1e6, 1.0000001, 2147483647.0, 2147483648.0,
+                               -2147483648.0, -2147483649.0, std::nan(""), HUGE_VAL}) {
+        text += nemohIO::printVal(value);
+    }
+    EXPECT_EQ(text,
+              "-0. 9.81 1e+06. 1 2.14748e+09. 2.14748e+09 -2.14748e+09. -2.14748e+09 nan inf ");
+}
+
+TEST_F(nemohProject, turnsAxesAndKeepsHeadersInColumns) {
+    nemoh.setEnv(1000, 9.81, 50, 1.5, -2, 2);
+    // Quarter turns: x to y to z to x.
+    nemoh.addBody("a.dat", 8, 6, {1, 6}, {4, 0, -2.5}, {0, 0, 1, 1, 0, 0, 0, 1, 0});
+    nemoh.printCalHdr("Body", 10);
+    nemoh.printCalHdr(std::string(126, 'n'), nemohIO::noNumber);
+    nemoh.addPostProc(0.1, 50);
+    const std::string expected = "1 0. 1. 0. 4. 0. -2.5 \t ! force in dof 1 \n"
+                                 "2 1. 0. 0. 4. 0. -2.5 \t ! force in dof 6 \n0\t\t ! number of "
+                                 "additional lines\n--- Body 10 " +
+                                 std::string(119, '-') + "\n--- " + std::string(126, 'n') +
+                                 " \n--- Post processing " + std::string(110, '-') +
+                                 "\n1 0.1 50. \t ! Impulse";
+    EXPECT_THAT(readFile(project.path("Nemoh.cal")), testing::HasSubstr(expected));
+}
+
+TEST_F(nemohProject, searchesByLine) {
+    const std::tuple<const char*, int, int, const char*> cases[] = {
+        {"a\n\n  key\n\n b c\n\n \n d\ne\n", 2, 2, "e"},
+        {"key\na\nb", 1, -1, "a"},
+        {"a\nkey\n \n", -1, 0, ""},
+        {"a\nb\n", -1, 1, ""}};
+    for (const auto& [text, lines, skipped, next] : cases) {
+        std::istringstream in(text);
+        EXPECT_EQ(nemohIO::skipToKey(in, "key"), lines) << text;
+        nemohIO::skipLines(in, skipped);
+        EXPECT_EQ(std::string(std::istreambuf_iterator<char>(in), {}).substr(0, 1), next) << text;
+    }
+}
+
+TEST_F(nemohProject, readsTheCaseBack) {
+    const std::tuple<const char*, const char*, numbers, numbers> cases[] = {
+        {"", "", {0.01, 5}, {0, 90}},
+        {"1 2 0.01 5. ", "1 5 1. 3. ", {1, 1.5, 2, 2.5, 3}, {0, 90}},
+        {"2 0. 90. ", "1 15. 90. ", {0.01, 5}, {15}},
+        {"1 2 0.01 5. ", "1 1 0.7 3. ", {0.01}, {0, 90}}}; // keeps what it was
+    for (const auto& [old, by, frequencies, directions] : cases) {
+        change(old, by);
+        EXPECT_EQ(nemoh.readCase(nFreqs, first, nDirections, second), 1);
+        EXPECT_EQ(first, frequencies);
+        EXPECT_EQ(second, directions);
+    }
+}
+
+TEST_F(nemohProject, endsTheRunAtADamagedCase) {
+    const auto read = [&] { nemoh.readCase(nFreqs, first, nDirections, second); };
+    const std::string file = project.path("Nemoh.cal");
+    EXPECT_EXIT_SAYING(read(), 1, "FATAL ERROR: Could not open file " + file + ". Exiting.\n");
+    const char* const cases[][3] = {
+        {"--- Desc", "---Desc", "39: expected the section \"--- Description\" before it"},
+        {"1\t ! number of b", "x\t ! b", "7: expected the number of bodies, found \"x\t ! b"},
+        {"\n1 2 0", "\n\n1 -2 0", "28: expected the number of frequencies from 0 to 1000000"},
+        {"1 2 0.01", "1 1000001 0", "27: expected the number of frequencies from 0 to"}};
+    for (const auto& [old, by, message] : cases) {
+        change(old, by);
+        EXPECT_EXIT_SAYING(read(), 1, file + ", line " + message);
+    }
+}
+
+TEST_F(nemohProject, readsABody) {
+    const std::tuple<const char*, const char*, int, int, int> cases[] = {
+        {"0. \t ! body motion in dof 6", "-9.5 \t ! body motion in dof 6", 0, 6, 6},
+        {"6 \t ! number of body", "2000000000 \t ! body", -1, 2000000000, -1},
+        {"--- Body 1", "--- Body 2", -1, -1, -1}};
+    for (const auto& [old, by, result, motions, forces] : cases) {
+        change(old, by);
+        EXPECT_EQ(nemoh.readBody(1, nFreqs, nDirections, first), result) << by;
+        EXPECT_EQ(std::pair(nFreqs, nDirections), std::pair(motions, forces)) << by;
+    }
+    EXPECT_EQ(first, numbers({0, 0, -9.5}));
+}
+
+TEST_F(nemohProject, readsHydrostatics) {
+    const std::string head = " XF = 0\n YF = 0\n ZF = 0\n Displacement = ";
+    const std::string file = writeFile(project.path("Hydrostatics.dat"), head + " 0.2417605E+00\n");
+    writeFile(project.path("KH.dat"), "  0.1000000E+01 -0.2500000E+01\n  0.3000000E-01  \n");
+    EXPECT_EQ(nemohIO::readC(project.path(), first), 0.2417605);
+    EXPECT_EQ(first, numbers({1, -2.5, 0.03}));
+    writeFile(file, head + "****\n");
+    EXPECT_EXIT_SAYING(nemohIO::readC(project.path(), first), 1,
+                       file + ", line 4: expected the displ");
+    EXPECT_EQ(outputOf([&] { EXPECT_EQ(nemohIO::readC("none", first), -1.0); }),
+              "WARNING: none/KH.dat was not found. No hydrostatic stiffness read.\n"
+              "WARNING: none/Hydrostatics.dat was not found. No volume read from Nemoh results.\n");
+}
+
+/// The first or second numbers of `count` pairs in the order of the arrays.
+numbers numbersOf(int count, int part) {
+    numbers all;
+    for (int place = 0; place < count; ++place) {
+        all.push_back(1000000 + 2 * place + part);
+    }
+    return all;
+}
+
+/// A result file with its numbers in Fortran's manner; the places are (zone, force, frequency).
+std::string resultText(int zones, int freqs, int forces) {
+    std::string text = "VARIABLES=\"w (rad/s)\"\n";
+    for (int force = 0; force < forces; ++force) {
+        text += "\"A   1   1\" \"B   1   1\"\n";
+    }
+    for (int zone = 0; zone < zones; ++zone) {
+        text += "Zone t=\"Motion of body    1 in DoF   1\",I=   128,F=POINT\n";
+        for (int freq = 0; freq < freqs; ++freq) {
+            text += "  0.2500000E-01";
+            for (int i = 0; i < 2 * forces; ++i) {
+                const int place = (zone * forces + i / 2) * freqs + freq;
+                text += "  0." + std::to_string(1000000 + 2 * place + i % 2) + "E+07";
+            }
+            text += "  \n";
+        }
+    }
+    return text;
+}
+
+TEST_F(nemohProject, putsResultsInTheirPlaces) {
+    describeTwoBodies();
+    const std::tuple<int, int, int, int, std::string> cases[] = {
+        {1, 6, 1, 1, "results/"}, {2, 8, 1, 3, "results/"}, {2, 8, 4, 2, "Results/"}};
+    std::filesystem::create_directory(project.path("Results"));
+    for (const auto& [bodies, dofs, freqs, directions, folder] : cases) {
+        // In the last case "results" keeps what does not fit it.
+        const std::string path = project.path(folder);
+        writeFile(path + "RadiationCoefficients.tec", resultText(dofs, freqs, dofs));
+        writeFile(path + "ExcitationForce.tec", resultText(directions, freqs, dofs));
+        writeFile(path + "FKForce.tec", resultText(directions, freqs, dofs));
+        nemoh.readCoeffs(freqs, bodies, first, second);
+        EXPECT_EQ(first, numbersOf(dofs * dofs * freqs, 0));
+        EXPECT_EQ(second, numbersOf(dofs * dofs * freqs, 1));
+        nemoh.readExcitation(freqs, directions, bodies, first, second);
+        EXPECT_EQ(first, numbersOf(directions * dofs * freqs, 0));
+        EXPECT_EQ(second, numbersOf(directions * dofs * freqs, 1));
+        std::vector<std::complex<double>> forces;
+        nemoh.readForce("FKForce.tec", freqs, directions, bodies, dofs / bodies, forces);
+        ASSERT_EQ(forces.size(), first.size());
+        for (std::size_t i = 0; i < forces.size(); ++i) {
+            EXPECT_LT(std::abs(forces[i] - std::polar(first[i], second[i])), 1e-6);
+        }
+    }
+}
+
+TEST_F(nemohProject, endsTheRunAtDamagedResults) {
+    describeTwoBodies();
+    const auto read = [&](int bodies) { nemoh.readExcitation(2, 2, bodies, first, second); };
+    const std::string file = project.path("results/ExcitationForce.tec");
+    EXPECT_EXIT_SAYING(read(1), 1, "FATAL ERROR: Could not open file " + file + ". Exiting.\n");
+    EXPECT_EXIT_SAYING(nemoh.readCoeffs(2, 3, first, second), 1,
+                       "bodies: 3\nWarning: ndofs for body 3 were not found\nFATAL ERROR: Can not "
+                       "find Body 3 in Nemoh.cal file\n");
+    // Lines 1 to 7 are the head; zones begin at 8 and 11, and 13 is the last line.
+    const std::string good = resultText(2, 2, 6);
+    const std::string cut = good.substr(0, good.rfind("  0.25"));
+    const std::string last = good.substr(cut.size());
+    const std::pair<std::string, const char*> cases[] = {
+        {cut + last.substr(0, 75), "13: expected a frequency and 6 pairs of numbers, found"},
+        {cut + "*\n", "13: expected a frequency and 6 pairs of numbers, found \"*\"."},
+        {good.substr(0, good.rfind("Zone")), "10: expected 2 zones of 2 frequencies up to here"},
+        {cut + "Zone", "13: expected 2 frequencies before the next zone"},
+        {good + last, "14: expected a zone after 2 frequencies"},
+        {good + "Zone\n" + last, "15: expected no more than 2 zones"}};
+    for (const auto& [text, message] : cases) {
+        writeFile(file, text);
+        EXPECT_EXIT_SAYING(read(1), 1, file + ", line " + message);
+    }
+}
+
+} // namespace

@@ -1,13 +1,34 @@
 #include "app/help.hpp"
+#include "app/inputFile.hpp"
 #include "app/jsonFormat.hpp"
 #include "app/meshConvert.hpp"
 #include "io/reader.hpp"
+#include "nemoh/setNemohCase.hpp"
+
+#include <iostream>
+#include <string>
 
 namespace {
 
 bool isAsked(const char* flag, int argc, const char** argv) {
     int position = argc;
     return reader::findFlag(flag, argc, argv, position);
+}
+
+/// Makes the Nemoh project that the input file named by -f asks for; returns the exit status.
+int nemohProject(int argc, const char** argv) {
+    std::cout << " Creating Nemoh project " << std::endl;
+    std::string name;
+    reader::getFlag("-f", argc, argv, name);
+    if (name == "FOUND" || name == "NOT_FOUND") {
+        std::cout << "FATAL ERROR: No input file specified. Please provide an input file name with "
+                     "the -f <file> syntax."
+                  << std::endl;
+        help();
+        return -1;
+    }
+    requireInputFile(name);
+    return setNemohCase(inputMap(name));
 }
 
 } // namespace
@@ -23,6 +44,9 @@ int main(int argc, const char** argv) {
     if (reader::findFlag("-meshConvert", argc, argv, position) &&
         !meshConvert(position, argc, argv)) {
         return 0;
+    }
+    if (isAsked("-nemoh", argc, argv)) {
+        return nemohProject(argc, argv);
     }
     if (isAsked("-toJSON", argc, argv)) {
         return jsonFormat(argc, argv);

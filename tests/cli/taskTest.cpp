@@ -21,6 +21,10 @@ TEST(tasks, endAsTheirFlagsSay) {
         " Warning: -origin flag requires 3 following x y z coordinates. Not enough input\n";
     const std::string noLevel =
         " Warning: -wet flag requires 1 following z coordinate. Not enough input\n";
+    const std::string project = " Creating Nemoh project \n";
+    const std::string noInput =
+        "FATAL ERROR: No input file specified. Please provide an input file "
+        "name with the -f <file> syntax.\n";
     const taskCase cases[] = {
         {{}, 0, usage},
         {{"-help"}, 0, usage},
@@ -28,6 +32,8 @@ TEST(tasks, endAsTheirFlagsSay) {
         {{"-meshConvert", "a.stl"}, 0, tooFew + usage + usage},
         {{"-meshConvert", "a.stl", "b.stl", "-origin", "1", "2"}, 0, noOrigin + usage},
         {{"-meshConvert", "a.stl", "b.stl", "-wet"}, 0, noLevel + usage},
+        {{"-nemoh"}, 255, project + "Cannot find input file \n"},
+        {{"-f", "-toJSON", "-nemoh"}, 255, project + noInput + usage},
         {{"-toJSON", "-f", "missing.m"}, 255, "Cannot find input file missing.m\n"},
         {{"-toJSON", "-f"}, 255, "Cannot find input file FOUND\n"},
         {{"-toJSON"}, 255, "Cannot find input file \n"},

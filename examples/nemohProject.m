@@ -1,0 +1,25 @@
+% A Nemoh project of barge.stl, floating with 1.8 m draught:
+%   sorvikPre -nemoh -f nemohProject.m
+bem = {
+    output = nemohProject     % made where the program is run
+    body   = 1                % the settings of hydroBody1
+    w0     = 0.2              % rad/s
+    w1     = 3
+    nFreqs = 15
+    dir0   = 0                % degrees
+    dir1   = 180
+    nDirs  = 5
+}
+
+environment = {
+    waterDensity = 1025       % kg/m3
+    gravity      = -9.81      % m/s2
+    waterLevel   = 0          % m
+    ground.level = -60
+}
+
+hydroBody1.bemInput = {
+    meshName  = barge.stl
+    cogInMesh = [0, 0, -0.3]  % m, in the coordinates of the mesh file
+    position  = [0, 0, -0.6]  % where that point comes to
+}

@@ -91,7 +91,7 @@ void inputMap::print(std::string outName) const {
         outName = reader::removeExtension(fileName) + ".json";
     }
     const std::string text = sorvikIO::toJSON(map, 0);
-    std::ofstream out(outName);
+    std::ofstream out(outName, std::ios::binary);
     out << text << std::flush;
     if (!out) {
         printer::fatalError("Cannot write the JSON file " + outName +

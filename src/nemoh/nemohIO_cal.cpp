@@ -101,13 +101,13 @@ void nemohIO::printCalHdr(const std::string& name, int number) {
     cal << std::string(dashes > 0 ? static_cast<std::size_t>(dashes) : 0, '-') << '\n';
 
     // Of the two control files only Nemoh.cal is worth stopping for.
-    std::ofstream(folder + "/input_solver.txt") << solverSettings;
+    std::ofstream(folder + "/input_solver.txt", std::ios::binary) << solverSettings;
 }
 
 void nemohIO::setEnv(double const& rho, double const& gravity, double const& depth, double const& x,
                      double const& y, int bodies) {
     if (!cal.is_open()) {
-        cal.open(folder + "/Nemoh.cal", std::ios::out | std::ios::trunc);
+        cal.open(folder + "/Nemoh.cal", std::ios::out | std::ios::trunc | std::ios::binary);
     }
     printCalHdr("Environment", noNumber);
     cal << printVal(rho) << "\t ! rho kg/m3 \n"

@@ -95,7 +95,7 @@ std::optional<projectMesh> placeMesh(const bodySettings& settings, const std::st
         sorvikIO::fileNameFromPath(file.substr(0, file.size() - extensionLength) + "_wetted.dat");
     mesh.updateWetSurface(cutLevel);
     const std::string target = folder + "/" + wetted.name;
-    std::ofstream out(target);
+    std::ofstream out(target, std::ios::binary);
     wetted.points = out.is_open() ? mesh.nemoh_write(out) : 0;
     out.close();
     if (!out) {

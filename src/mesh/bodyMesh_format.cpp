@@ -23,12 +23,9 @@ int bodyMesh::chooseFrmt(std::string const& file) {
 bool bodyMesh::read(std::string const& file) {
     const int frmt = chooseFrmt(file);
     switch (frmt) {
-    case stl:
-        return stl_isbinary(file) ? stl_read(file) : stl_read_ascii(file);
-    case gdf:
-        return gdf_read(file);
-    case nemoh:
-        return nemoh_read(file) != 0;
+    case stl: return stl_isbinary(file) ? stl_read(file) : stl_read_ascii(file);
+    case gdf: return gdf_read(file);
+    case nemoh: return nemoh_read(file) != 0;
     default:
         std::cout << "WARNING. MESH FILE FORMAT " << frmt
                   << " IS NOT SUPPPORTED. PLEASE SUPPLY A .gdf or .stl or a .dat nemoh mesh file."
@@ -41,15 +38,9 @@ bool bodyMesh::write(std::string const& file, bool wetOnly) {
     constexpr double lengthScale = 1.0;
     constexpr double gravity = 9.81;
     switch (chooseFrmt(file)) {
-    case stl:
-        stl_print(file, wetOnly);
-        return true;
-    case gdf:
-        gdf_print(file, wetOnly, lengthScale, gravity);
-        return true;
-    case nemoh:
-        nemoh_print(file, true);
-        return true;
+    case stl: stl_print(file, wetOnly); return true;
+    case gdf: gdf_print(file, wetOnly, lengthScale, gravity); return true;
+    case nemoh: nemoh_print(file, true); return true;
     default:
         std::cout << "Warning: Output format not supported. Please choose among: .gdf, .stl and "
                      ".dat formats"

@@ -46,12 +46,9 @@ float nearPlace(std::mt19937& random, std::vector<float> const& places) {
     const float place = places[random() % places.size()];
     const float offset = 4e-6F * static_cast<float>(static_cast<int>(random() % 9) - 4);
     switch (random() % 4) {
-    case 0:
-        return std::nextafter(place, 2 * place);
-    case 1:
-        return place;
-    default:
-        return place + offset;
+    case 0: return std::nextafter(place, 2 * place);
+    case 1: return place;
+    default: return place + offset;
     }
 }
 

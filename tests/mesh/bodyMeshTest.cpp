@@ -122,12 +122,10 @@ TEST(bodyMesh, floatsByArchimedes) {
 TEST(bodyMesh, turnsOffCentreLoadsIntoMoments) {
     bodyMesh mesh;
     fillMesh(mesh, {triangle({0, 0, -1}, {4, 1, -1}, {4, 2, -1}, {3, 3, -1})});
-    std::vector<double> F = {9, 9, 9, 9, 9, 9, 9};
+    std::vector<double> F(9, 9.0);
     mesh.FroudeKrylovForces(0, 2, F);
-    const double load = 2 * mesh.faces[0].area;
-    const double x = 11.0 / 3;
-    const double y = 2;
-    const std::vector<double> expected = {0, 0, load, y * load, -x * load, 0};
+    // An area of 1/2 m² about (11/3, 2), pushed up.
+    const std::vector<double> expected = {0, 0, 1, 2, -11.0 / 3, 0};
     ASSERT_EQ(F.size(), 6U);
     for (std::size_t i = 0; i < 6; ++i) {
         EXPECT_NEAR(F[i], expected[i], 1e-5) << i;

@@ -1,0 +1,4 @@
+#pragma once
+
+constexpr double pi = 3.14159265358979323846;
+constexpr double radiansPerDegree = 0.017453292519943295;

@@ -1,0 +1,83 @@
+#include "waves/waveComponent2D.hpp"
+
+#include "waves/angles.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <istream>
+#include <ostream>
+
+namespace {
+
+/// From this k h on, 3 pi / 2, cosh and sinh are taken as one exponential.
+constexpr double deepKh = 4.71238898038469;
+
+} // namespace
+
+waveComponent2D::waveComponent2D(const double& gravity, const double& depth)
+    : g(gravity), h(depth) {}
+
+waveComponent2D::waveComponent2D(const double& gravity, const double& depth, double amplitude,
+                                 double waveNumber, double omega, double phase)
+    : g(gravity), h(depth) {
+    set(amplitude, waveNumber, omega, phase);
+}
+
+void waveComponent2D::set(const double& amplitude, const double& waveNumber, const double& omega,
+                          const double& phase) {
+    a = amplitude;
+    k = waveNumber;
+    w = omega;
+    phi = phase;
+    agk = a * g * k;
+    clippedKh = std::min(k * h, deepKh);
+    coshKh = std::cosh(clippedKh);
+    deep = k * h > deepKh;
+}
+
+double waveComponent2D::eta(double s) const {
+    return a * std::cos(surfaceAngle(s));
+}
+
+double waveComponent2D::pressureFactor(double z) const {
+    return deep ? std::exp(k * z) : std::cosh(k * z + clippedKh) / coshKh;
+}
+
+double waveComponent2D::pressureHead(double s, double z) const {
+    return a * pressureFactor(z) * std::cos(surfaceAngle(s));
+}
+
+void waveComponent2D::kinematics(const double& s, const double& z, double& u, double& vertical,
+                                 double& ax, double& az) const {
+    const double horizontalFactor = pressureFactor(z);
+    const double verticalFactor = deep ? horizontalFactor : std::sinh(k * z + clippedKh) / coshKh;
+    const double theta = surfaceAngle(s);
+    const double cosTheta = std::cos(theta);
+    const double sinTheta = std::sin(theta);
+    const double speed = agk / w;
+    u += speed * horizontalFactor * cosTheta;
+    vertical += speed * verticalFactor * sinTheta;
+    ax += agk * horizontalFactor * sinTheta;
+    az -= agk * verticalFactor * cosTheta;
+}
+
+void waveComponent2D::printInfo(std::ostream& out) const {
+    out << "Wave height (m): " << 2 * a << ", Period (s): " << 2 * pi / w
+        << ", Wave length (m): " << 2 * pi / k << ", Phase (deg): " << phi * 180 / pi << std::endl;
+}
+
+std::istream& operator>>(std::istream& in, waveComponent2D& component) {
+    double a = 0.0;
+    double k = 0.0;
+    double omega = 0.0;
+    double phase = 0.0;
+    if (in >> a >> k >> omega >> phase) {
+        component.set(a, k, omega, phase);
+    }
+    return in;
+}
+
+std::ostream& operator<<(std::ostream& out, const waveComponent2D& component) {
+    return out << component.amplitude() << '\t' << component.waveNumber() << '\t'
+               << component.angularFrequency() << '\t' << component.phase();
+}

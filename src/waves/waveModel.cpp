@@ -1,0 +1,220 @@
+#include "waves/waveModel.hpp"
+
+#include "io/printer.hpp"
+#include "io/reader.hpp"
+#include "numerics/matrixOp.hpp"
+#include "waves/angles.hpp"
+#include "waves/globals.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <exception>
+#include <ostream>
+#include <random>
+
+waveModel::waveModel(const reader& config) {
+    const inputMap& inputs = config.inputs;
+    const double ground = inputs.read<double>("environment.ground.level", -1000.0);
+    depth = inputs.read<double>(prefix + "depth", globals::m_stillWaterLevel - ground);
+    gravity = std::fabs(globals::m_g.back());
+    density = globals::m_rhoWater;
+    rampTime = inputs.read<double>(prefix + "rampTime", 0.0);
+    stretching = depth;
+}
+
+waveTrain& waveModel::addTrain(double direction) {
+    return trainList.emplace_back(direction, density, gravity, depth);
+}
+
+void waveModel::finishTrains() {
+    const auto deepest =
+        std::max_element(trainList.begin(), trainList.end(), [](auto& one, auto& other) {
+            return one.influenceDepth() < other.influenceDepth();
+        });
+    if (deepest != trainList.end()) {
+        stretching = deepest->influenceDepth();
+    }
+    hasWaves = true;
+}
+
+void waveModel::setTime(const double& t) {
+    for (waveTrain& train : trainList) {
+        train.setTime(t);
+    }
+    rampFactor = rampFactorAt(t);
+}
+
+double waveModel::rampFactorAt(double t) const {
+    constexpr double shortestRamp = 1e-12; // s
+    const double share = std::min(t / std::max(rampTime, shortestRamp), 1.0);
+    return (std::sin((share - 0.5) * pi) + 1) * 0.5;
+}
+
+double waveModel::sumOfEta(double x, double y) const {
+    double sum = 0.0;
+    for (const waveTrain& train : trainList) {
+        sum += train.eta(x, y);
+    }
+    return sum;
+}
+
+void waveModel::eta(int n, const double* x, const double* y, double* elevation) const {
+    for (int i = 0; i < n; ++i) {
+        double& value = elevation[i];
+        value *= 0.0;
+        for (const waveTrain& train : trainList) {
+            value += train.eta(x[i], y[i]);
+        }
+        value *= rampFactor;
+    }
+}
+
+namespace {
+
+/// Wheeler stretching: the height over the still water level, `z`, of a point between the sea bed
+/// at -h and the surface at `eta`, moved to where its motion is that of a point between -h and 0.
+double stretched(double z, double eta, double h) {
+    return h * (z + h) / (eta + h) - h;
+}
+
+double stillWaterDensity(double z) {
+    return z > globals::m_stillWaterLevel ? globals::m_rhoAir : globals::m_rhoWater;
+}
+
+/// The blocks of a point set of 3n doubles.
+struct pointBlocks {
+    pointBlocks(std::ptrdiff_t n, const double* positions)
+        : x(positions), y(positions + n), z(positions + 2 * n) {}
+    const double* x;
+    const double* y;
+    const double* z;
+};
+
+} // namespace
+
+void waveModel::evaluate(fluidState& state) const {
+    state.hasKinematics = true;
+    state.hasDensity = true;
+    evaluate(state.n, state.positions.data(), state.velocity.data(), state.acceleration.data(),
+             state.density.data(), state.depthBelowSurface.data());
+}
+
+void waveModel::evaluate(int n, const double* positions, double* velocity, double* acceleration,
+                         double* fluidDensity, double* depthBelowSurface) const {
+    if (isDisabled) {
+        return;
+    }
+    matrixOp::scale(globals::m_dimensionNumber * n, 0.0, velocity);
+    matrixOp::scale(globals::m_dimensionNumber * n, 0.0, acceleration);
+    const std::ptrdiff_t block = n;
+    const pointBlocks points(block, positions);
+    const double level = globals::m_stillWaterLevel;
+    if (!hasWaves) {
+        for (int i = 0; i < n; ++i) {
+            depthBelowSurface[i] = level - points.z[i];
+            fluidDensity[i] = stillWaterDensity(points.z[i]);
+        }
+        return;
+    }
+    for (int i = 0; i < n; ++i) {
+        const double surface = rampFactor * sumOfEta(points.x[i], points.y[i]);
+        depthBelowSurface[i] = (level + surface) - points.z[i];
+        const double z = stretched(points.z[i] - level, surface, stretching);
+        fluidDensity[i] = z > 0.0 ? globals::m_rhoAir : globals::m_rhoWater;
+        if (z > 0.0) {
+            continue;
+        }
+        double* v = velocity + i;
+        double* a = acceleration + i;
+        for (const waveTrain& train : trainList) {
+            train.kinematics(points.x[i], points.y[i], z, v[0], v[block], v[2 * block], a[0],
+                             a[block], a[2 * block]);
+        }
+    }
+    matrixOp::scale(3 * n, rampFactor, velocity);
+    matrixOp::scale(3 * n, rampFactor, acceleration);
+}
+
+void waveModel::evaluateRho(int n, const double* positions, double* velocity, double* acceleration,
+                            double* fluidDensity) const {
+    if (isDisabled) {
+        return;
+    }
+    const pointBlocks points(n, positions);
+    for (int i = 0; i < n; ++i) {
+        fluidDensity[i] = stillWaterDensity(points.z[i]);
+    }
+    matrixOp::scale(globals::m_dimensionNumber * n, 0.0, velocity);
+    matrixOp::scale(globals::m_dimensionNumber * n, 0.0, acceleration);
+}
+
+void waveModel::pressure(int n, const double* positions, double* pressure) const {
+    const pointBlocks points(n, positions);
+    for (int i = 0; i < n; ++i) {
+        const double x = points.x[i];
+        const double y = points.y[i];
+        const double z = points.z[i] - globals::m_stillWaterLevel;
+        const double zKinematic = stretched(z, rampFactor * sumOfEta(x, y), depth);
+        if (zKinematic > 0.0) {
+            pressure[i] = 0.0;
+            continue;
+        }
+        double dynamic = 0.0;
+        for (const waveTrain& train : trainList) {
+            dynamic += train.dynamicPressure(x, y, zKinematic);
+        }
+        pressure[i] = -z * density * gravity + rampFactor * dynamic;
+    }
+}
+
+namespace {
+
+int freshSeed() {
+    try {
+        std::random_device device("/dev/urandom");
+        // -1 would not reproduce the phases.
+        constexpr unsigned askForFresh = 0xFFFFFFFF;
+        unsigned seed = askForFresh;
+        while (seed == askForFresh) {
+            seed = device();
+        }
+        return static_cast<int>(seed);
+    } catch (const std::exception& error) {
+        printer::fatalError(
+            std::string("Cannot draw a seed for random phases from /dev/urandom: ") + error.what() +
+            ". Give one as environment.wave.seed.");
+    }
+}
+
+} // namespace
+
+int waveModel::uniformPhaseDistribution(int seed, int n, double* phases) {
+    if (seed == -1) {
+        seed = freshSeed();
+    }
+    // The standard fixes the outputs of the generator, but not those of its distributions.
+    std::mt19937 random(static_cast<std::uint32_t>(seed));
+    constexpr double below1 = 1.0 - 0x1p-53;
+    for (int i = 0; i < n; ++i) {
+        const auto low = static_cast<double>(random());
+        const auto high = static_cast<double>(random());
+        const double share = (low + high * 0x1p32) * 0x1p-64;
+        phases[i] = 2 * pi * std::min(share, below1);
+    }
+    return seed;
+}
+
+void waveModel::printFirstTrain(std::ostream& out, const char* title) const {
+    out << title << " \n\t";
+    if (trainList.empty()) {
+        return;
+    }
+    const waveTrain& train = trainList.front();
+    out << "Direction (deg): " << train.directionDegrees()
+        << "\n\tWave components :" << train.componentCount() << " \n\tFirst component: ";
+    if (!train.components().empty()) {
+        train.components().front().printInfo(out);
+    }
+}

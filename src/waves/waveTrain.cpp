@@ -1,0 +1,135 @@
+#include "waves/waveTrain.hpp"
+
+#include "waves/angles.hpp"
+#include "waves/memory.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <iostream>
+
+waveTrain::waveTrain(double directionRadians, double density, double gravity, double depth)
+    : direction(180 * directionRadians / pi), rho(density), g(gravity), h(depth), influence(depth),
+      cosine(std::cos(directionRadians)), sine(std::sin(directionRadians)) {}
+
+double waveTrain::dispersionRelationFrom_w(const double& omega, const double& g, const double& h) {
+    constexpr double tolerance = 1e-12;
+    constexpr int maxNewtonSteps = 500;
+    const double k0 = omega * omega / g;
+    double x = k0 * h;
+    if (x > 2 * pi) {
+        return k0;
+    }
+    const auto residualAt = [&](double kh) { return g / h * kh * std::tanh(kh) - omega * omega; };
+    double residual = residualAt(x);
+    for (int step = 0; step < maxNewtonSteps; ++step) {
+        const bool isOpen = std::fabs(residual) > tolerance;
+        if (!isOpen) {
+            return x / h;
+        }
+        const double coshX = std::cosh(x);
+        x -= residual / (g / h * (std::tanh(x) + x / (coshX * coshX)));
+        residual = residualAt(x);
+    }
+    std::cout << "Warning, could not find solution for dispersion relation!" << std::endl;
+    std::cout << "w=" << omega << " rad/s, but k=" << x / h << " rad/m was found with error "
+              << residual << std::endl;
+    std::cout << "Deep water assumption is used instead, i.e. k= " << k0 << std::endl;
+    return k0;
+}
+
+void waveTrain::setFrom_k(int n, const double* a, const double* k, const double* phase) {
+    count = n;
+    for (int i = 0; i < n; ++i) {
+        const double omega = std::sqrt(std::tanh(k[i] * h) * g * k[i]);
+        list.emplace_back(g, h, a[i], k[i], omega, phase[i]);
+    }
+    updateInfluence();
+}
+
+void waveTrain::setFrom_w(int n, const double* a, const double* omega, const double* phase) {
+    count = n;
+    for (int i = 0; i < n; ++i) {
+        const double k = dispersionRelationFrom_w(omega[i], g, h);
+        list.emplace_back(g, h, a[i], k, omega[i], phase[i]);
+    }
+    updateInfluence();
+}
+
+void waveTrain::updateInfluence() {
+    const auto longest = std::min_element(list.begin(), list.end(), [](auto& one, auto& other) {
+        return one.waveNumber() < other.waveNumber();
+    });
+    if (longest != list.end()) {
+        influence = std::min(2 * pi / longest->waveNumber(), h);
+    }
+}
+
+void waveTrain::setTime(double t) {
+    for (waveComponent2D& component : list) {
+        component.setTime(t);
+    }
+}
+
+double waveTrain::eta(const double& x, const double& y) const {
+    const double s = along(x, y);
+    double sum = 0.0;
+    for (const waveComponent2D& component : list) {
+        sum += component.eta(s);
+    }
+    return sum;
+}
+
+void waveTrain::kinematics(const double& x, const double& y, const double& z, double& u, double& v,
+                           double& w, double& ax, double& ay, double& az) const {
+    const double s = along(x, y);
+    double horizontalVelocity = 0.0;
+    double horizontalAcceleration = 0.0;
+    for (const waveComponent2D& component : list) {
+        component.kinematics(s, z, horizontalVelocity, w, horizontalAcceleration, az);
+    }
+    u += horizontalVelocity * cosine;
+    v += horizontalVelocity * sine;
+    ax += horizontalAcceleration * cosine;
+    ay += horizontalAcceleration * sine;
+}
+
+double waveTrain::dynamicPressure(const double& x, const double& y, const double& z) const {
+    const double s = along(x, y);
+    double head = 0.0;
+    for (const waveComponent2D& component : list) {
+        head += component.pressureHead(s, z);
+    }
+    return rho * g * head;
+}
+
+double waveTrain::totalPressure(const double& x, const double& y, const double& z,
+                                const double& zKinematic) const {
+    return dynamicPressure(x, y, zKinematic) - rho * g * z;
+}
+
+std::istream& operator>>(std::istream& in, waveTrain& train) {
+    train.direction = 0.0;
+    train.count = 0;
+    in >> train.direction >> train.count;
+    const double radians = train.direction * radiansPerDegree;
+    train.cosine = std::cos(radians);
+    train.sine = std::sin(radians);
+
+    train.list.clear();
+    if (!fitsMemory(train.count, sizeof(waveComponent2D))) {
+        in.setstate(std::ios::failbit);
+        return in;
+    }
+    const waveComponent2D neutral(train.g, train.h);
+    train.list.assign(static_cast<std::size_t>(std::max(train.count, 0)), neutral);
+    waveComponent2D passedOver = neutral;
+    return in >> passedOver >> std::ws;
+}
+
+std::ostream& operator<<(std::ostream& out, const waveTrain& train) {
+    out << train.directionDegrees() << '\t' << train.componentCount();
+    for (const waveComponent2D& component : train.components()) {
+        out << '\t' << component;
+    }
+    return out << '\n';
+}

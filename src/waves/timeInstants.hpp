@@ -4,6 +4,8 @@
 #include <utility>
 #include <vector>
 
+class reader;
+
 /// The instants [s] of a run: evenly spaced, computed as they are asked for, or listed.
 class timeInstants {
 public:
@@ -31,3 +33,8 @@ private:
     std::int64_t evenCount = 0;
     std::vector<double> list;
 };
+
+/// The instants of the run: the first column of the file "time.dat" in the output folder where
+/// there is one, otherwise those of the input's start, end and step. None where the end lies before
+/// the start; a step or a span that cannot be used is fatal.
+timeInstants readInstants(const reader& config);

@@ -1,6 +1,37 @@
 #include "waves/waveElevation.hpp"
 
+#include "io/reader.hpp"
+#include "waves/elevationTable.hpp"
+#include "waves/globals.hpp"
+#include "waves/resultFile.hpp"
+#include "waves/timeInstants.hpp"
+#include "waves/waveFactory.hpp"
+#include "waves/waveModel.hpp"
+#include "waves/waveProbes.hpp"
+
 #include <iostream>
+#include <memory>
+
+int waveElevation(int argc, const char** argv) {
+    std::cout << " Running wave elevation post-processing routine to print elevation to file."
+              << std::endl;
+    reader config;
+    config.setupReadOnly(argc, argv);
+    reader::fileExist(config.inputFile, true);
+    globals::set(config);
+    const std::unique_ptr<waveModel> model(waveFactory::create(config));
+    waveProbes probes;
+    if (!findProbes(argc, argv, config.outputFolder, probes)) {
+        return -1;
+    }
+    const timeInstants instants = readInstants(config);
+    const std::string path =
+        writeResult(config.outputFolder, "waveElevation.dat", [&](std::ostream& out) {
+            writeElevationTable(*model, probes.x, probes.y, instants, out);
+        });
+    std::cout << "Wave elevation computed and printed to " << path << std::endl;
+    return 0;
+}
 
 void waveHelp() {
     std::cout << " ----- Wave elevation computation in sorvikPre ----- " << std::endl;

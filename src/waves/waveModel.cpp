@@ -5,6 +5,7 @@
 #include "numerics/matrixOp.hpp"
 #include "waves/angles.hpp"
 #include "waves/globals.hpp"
+#include "waves/inputCheck.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -13,6 +14,7 @@
 #include <exception>
 #include <ostream>
 #include <random>
+#include <string>
 
 waveModel::waveModel(const reader& config) {
     const inputMap& inputs = config.inputs;
@@ -25,6 +27,14 @@ waveModel::waveModel(const reader& config) {
 }
 
 waveTrain& waveModel::addTrain(double direction) {
+    if (!(depth > 0.0)) {
+        refuseInput("The water depth", depth,
+                    "one above zero [m]: environment.wave.depth, or environment.waterLevel less "
+                    "environment.ground.level");
+    }
+    if (gravity == 0.0) {
+        refuseInput("environment.gravity", gravity, "a number other than zero");
+    }
     return trainList.emplace_back(direction, density, gravity, depth);
 }
 

@@ -69,6 +69,8 @@ protected:
 
     /// The common beginning of the keys of all wave settings.
     std::string prefix = "environment.wave.";
+    /// Makes `evaluate` and `evaluateRho` leave their arrays alone.
+    bool isDisabled = false;
 
 private:
     double sumOfEta(double x, double y) const;
@@ -77,7 +79,6 @@ private:
     double gravity = 9.81;
     double density = 1000.0;
     bool hasWaves = false;
-    bool isDisabled = false;
     std::vector<waveTrain> trainList;
     double rampTime = 0.0;
     double rampFactor = 1.0;

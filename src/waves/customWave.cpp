@@ -1,0 +1,88 @@
+#include "waves/customWave.hpp"
+
+#include "io/printer.hpp"
+#include "io/reader.hpp"
+#include "io/sorvikIO.hpp"
+#include "numerics/matrixOp.hpp"
+#include "waves/angles.hpp"
+
+#include <cstdlib>
+#include <fstream>
+#include <iostream>
+
+customWave::customWave(const reader& config) : waveModel(config) {
+    const inputMap& inputs = config.inputs;
+    const bool useRadians = inputs.read<int>(prefix + "useRadians", 0) != 0;
+    if (inputs.map.count(prefix + "file") > 0) {
+        std::cout << " Reading file info" << std::endl;
+        readFile(config.mustRead<std::string>(prefix + "file"), useRadians);
+    } else {
+        std::cout << " Reading single-direction style input of customWave. Use .file input for "
+                     "multiple directions"
+                  << std::endl;
+        const auto direction = inputs.read<double>(prefix + "direction", 0.0);
+        const auto amplitudes = config.mustRead<std::vector<double>>(prefix + "amplitude");
+        auto frequencies = config.mustRead<std::vector<double>>(prefix + "frequency");
+        auto phases = config.mustRead<std::vector<double>>(prefix + "phase");
+        addWaveTrain(direction, amplitudes, frequencies, phases, useRadians);
+    }
+    finishTrains();
+}
+
+void customWave::addWaveTrain(double direction, const std::vector<double>& amplitudes,
+                              std::vector<double>& frequencies, std::vector<double>& phases,
+                              bool useRadians) {
+    if (frequencies.size() != amplitudes.size() || phases.size() != amplitudes.size()) {
+        std::cout << "Fatal error: customWave component arrays must have the same size: Found "
+                  << amplitudes.size() << " amplitudes, " << frequencies.size()
+                  << " frequencies, and " << phases.size() << " phases." << std::endl;
+        std::exit(-1);
+    }
+    const auto n = static_cast<int>(amplitudes.size());
+    if (!useRadians) {
+        direction *= radiansPerDegree;
+        matrixOp::scale(n, 2 * pi, frequencies.data());
+        matrixOp::scale(n, radiansPerDegree, phases.data());
+    }
+    addTrain(direction).setFrom_w(n, amplitudes.data(), frequencies.data(), phases.data());
+}
+
+namespace {
+
+std::vector<double> readRow(std::istream& in, const std::string& fileName, const char* content) {
+    std::string line;
+    if (!std::getline(in, line)) {
+        printer::fatalError("The wave file " + fileName +
+                            " ends within a block, expected a row of " + content +
+                            ": each direction is followed by a row of amplitudes, of "
+                            "frequencies and of phases");
+    }
+    std::vector<double> row;
+    sorvikIO::readLine<double>(line, row);
+    return row;
+}
+
+} // namespace
+
+void customWave::readFile(const std::string& name, bool useRadians) {
+    if (!reader::fileExist(name, false)) {
+        printer::fatalError("Cannot read the wave file " + name + " of " + prefix + "file");
+    }
+    std::ifstream in(name);
+    double direction = 0.0;
+    while (in >> direction >> std::ws) {
+        const auto amplitudes = readRow(in, name, "amplitudes");
+        auto frequencies = readRow(in, name, "frequencies");
+        auto phases = readRow(in, name, "phases");
+        addWaveTrain(direction, amplitudes, frequencies, phases, useRadians);
+    }
+    if (trains().empty()) {
+        printer::fatalError("The wave file " + name + " of " + prefix +
+                            "file holds no block of components, expected a direction and below it "
+                            "a row of amplitudes, of frequencies and of phases");
+    }
+}
+
+void customWave::print(std::ostream& out) const {
+    printFirstTrain(out, "customWave spectrum wave components:");
+}

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+
+class reader;
+
+/// Ends the run with a fatal error: `name` is a key or a flag, `found` what stands there.
+[[noreturn]] void refuseInput(const std::string& name, const std::string& found,
+                              const std::string& expected);
+[[noreturn]] void refuseInput(const std::string& name, double found, const std::string& expected);
+
+/// Ends the run with a fatal error about the value of `key`: its text in the input, or `fallback`
+/// where it is not given.
+[[noreturn]] void refuseInput(const reader& config, const std::string& key, double fallback,
+                              const std::string& expected);

@@ -1,0 +1,24 @@
+#include "waves/numericTable.hpp"
+
+#include "io/reader.hpp"
+#include "io/sorvikIO.hpp"
+
+#include <fstream>
+
+int readNumericTable(const std::string& fileName, std::vector<double>& values) {
+    if (!reader::fileExist(fileName, false)) {
+        return 0;
+    }
+    std::ifstream in(fileName);
+    const int columns = sorvikIO::readData<double>(in, values, 0);
+    if (values.empty()) {
+        return columns;
+    }
+    // Reading ends at the first row of another length, whose length is what is returned.
+    in.clear();
+    in.seekg(0);
+    std::string line;
+    std::getline(in, line);
+    std::vector<double> firstRow;
+    return sorvikIO::readLine<double>(line, firstRow) == columns ? columns : 0;
+}

@@ -1,0 +1,78 @@
+#include "waves/regularWave.hpp"
+
+#include "io/printer.hpp"
+#include "io/reader.hpp"
+#include "waves/angles.hpp"
+#include "waves/inputCheck.hpp"
+
+#include <cmath>
+#include <iostream>
+
+namespace {
+
+/// A key that fixes the wave, and the angular frequency [rad/s] or wave number [rad/m] that its
+/// value gives.
+struct waveKey {
+    const char* name;
+    bool isFrequency;
+    double (*quantity)(double value);
+};
+
+/// The first one that the input gives counts.
+const waveKey waveKeys[] = {
+    {"period", true, [](double period) { return 2 * pi / period; }},
+    {"frequency", true, [](double frequency) { return 2 * pi * frequency; }},
+    {"omega", true, [](double omega) { return omega; }},
+    {"k", false, [](double k) { return k; }},
+    {"length", false, [](double length) { return 2 * pi / length; }},
+};
+
+bool isUsable(double value) {
+    return std::isfinite(value) && value != 0.0;
+}
+
+} // namespace
+
+regularWave::regularWave(const reader& config) : waveModel(config) {
+    const inputMap& inputs = config.inputs;
+    amplitude = inputs.read<double>(prefix + "amplitude", 0.0);
+    if (amplitude == 0.0) {
+        std::cout << "WARNING: the specified amplitude is zero. I assume this is intentional and "
+                     "will proceed"
+                  << std::endl;
+    }
+    const double useRadians = inputs.read<int>(prefix + "useRadians", 0);
+    // Linear in the flag: pi/180 for 0, degrees, and 1 for 1, radians.
+    const double angleFactor = (1 - useRadians) * pi / 180 + useRadians;
+    const double phase = inputs.read<double>(prefix + "phase", 0.0) * angleFactor;
+    const double direction = inputs.read<double>(prefix + "direction", 0.0) * angleFactor;
+    fillTrain(config, addTrain(direction), phase);
+    finishTrains();
+    regularWave::print(std::cout);
+}
+
+void regularWave::fillTrain(const reader& config, waveTrain& train, double phase) const {
+    for (const waveKey& given : waveKeys) {
+        const std::string key = prefix + given.name;
+        if (config.inputs.map.count(key) == 0) {
+            continue;
+        }
+        const auto value = config.inputs.read<double>(key, 0.0);
+        const double quantity = given.quantity(value);
+        if (!isUsable(value) || !isUsable(quantity)) {
+            refuseInput(config, key, value, "a finite number other than zero");
+        }
+        if (given.isFrequency) {
+            train.setFrom_w(1, &amplitude, &quantity, &phase);
+        } else {
+            train.setFrom_k(1, &amplitude, &quantity, &phase);
+        }
+        return;
+    }
+    printer::fatalError("Essential wave parameters missing. Need at least one of: wave.period (s), "
+                        "wave.length (m), wave.omega (rad/s), wave.frequency(Hz), wave.k (rad/m)");
+}
+
+void regularWave::print(std::ostream& out) const {
+    printFirstTrain(out, "Regular wave model parameters:");
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "waves/waveModel.hpp"
+
+/// One Airy wave, of given amplitude, phase and direction, and of given period, frequency, length
+/// or wave number.
+class regularWave : public waveModel {
+public:
+    /// Still water, amplitude 0.
+    regularWave() = default;
+    /// Reads the wave and prints its parameters. Without a period, frequency, length or wave
+    /// number, or with one that is zero or not finite, that is fatal; an amplitude of 0 is warned
+    /// of.
+    explicit regularWave(const reader& config);
+
+    using waveModel::print;
+    /// Writes direction, component count and the wave in a few lines.
+    virtual void print(std::ostream& out) const;
+
+private:
+    void fillTrain(const reader& config, waveTrain& train, double phase) const;
+
+    double amplitude = 0.0; ///< m
+};

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "io/printer.hpp"
+#include "io/reader.hpp"
+
+#include <fstream>
+#include <string>
+
+/// Makes the folder, writes its file `name` through `write`, which is given the stream, and returns
+/// the path. A file that cannot be opened or written to its end is a fatal error.
+template <class Write>
+std::string writeResult(const std::string& folder, const std::string& name, Write write) {
+    reader::makeFolder(folder);
+    std::string path = folder + "/" + name;
+    std::ofstream out(path);
+    if (out) {
+        write(out);
+        out.close();
+    }
+    if (!out) {
+        printer::fatalError("Cannot write the file " + path +
+                            ", expected a place that can be written to, and room on the disk");
+    }
+    return path;
+}

@@ -1,0 +1,124 @@
+#include "waves/waveProbes.hpp"
+
+#include "io/reader.hpp"
+#include "waves/inputCheck.hpp"
+#include "waves/memory.hpp"
+#include "waves/numericTable.hpp"
+#include "waves/resultFile.hpp"
+
+#include <algorithm>
+#include <cctype>
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
+#include <iostream>
+#include <limits>
+
+namespace {
+
+constexpr int maxProbes = std::numeric_limits<int>::max();
+
+/// A rectangle centred on the origin, cut into nx times ny cells whose corners are the probes.
+struct probeGrid {
+    double sizeX; ///< m
+    double sizeY; ///< m
+    int nx;
+    int ny;
+};
+
+double lengthArgument(const char* name, const char* text) {
+    const double length = std::strtod(text, nullptr);
+    if (!std::isfinite(length)) {
+        refuseInput(name, text, "a finite length");
+    }
+    return length;
+}
+
+int cellArgument(const char* name, const char* text) {
+    const long cells = std::strtol(text, nullptr, 10);
+    if (cells < 1) {
+        refuseInput(name, text, "a whole number of at least 1");
+    }
+    return static_cast<int>(std::min<long>(cells, std::numeric_limits<int>::max()));
+}
+
+probeGrid readGrid(const char** values) {
+    return {lengthArgument("Xsize of -domain", values[0]),
+            lengthArgument("Ysize of -domain", values[1]), cellArgument("nx of -domain", values[2]),
+            cellArgument("ny of -domain", values[3])};
+}
+
+void appendGrid(const probeGrid& grid, waveProbes& probes) {
+    const std::int64_t count = (std::int64_t(grid.nx) + 1) * (std::int64_t(grid.ny) + 1);
+    constexpr std::size_t bytesPerProbe = 3 * sizeof(double); // x, y, elevation
+    if (count > maxProbes || !fitsMemory(count, bytesPerProbe)) {
+        refuseInput("The number of probes of -domain", std::to_string(count),
+                    "one that fits into memory");
+    }
+    probes.x.reserve(static_cast<std::size_t>(count));
+    probes.y.reserve(static_cast<std::size_t>(count));
+    const double halfX = grid.sizeX / 2;
+    const double halfY = grid.sizeY / 2;
+    for (int j = 0; j <= grid.ny; ++j) {
+        for (int i = 0; i <= grid.nx; ++i) {
+            probes.x.push_back(i * (2 * halfX) / grid.nx - halfX);
+            probes.y.push_back(j * (2 * halfY) / grid.ny - halfY);
+        }
+    }
+}
+
+void writeGrid(const probeGrid& grid, const std::string& folder) {
+    writeResult(folder, "waveDomain.dat", [&](std::ostream& out) {
+        out << grid.sizeX << '\t' << grid.sizeY << '\t' << grid.nx << '\t' << grid.ny << '\n';
+    });
+}
+
+bool readProbes(const std::string& fileName, waveProbes& probes) {
+    std::vector<double> table;
+    if (readNumericTable(fileName, table) != 2 || table.size() / 2 > maxProbes) {
+        std::cout << "FATAL ERROR: -xyFile file " << fileName
+                  << " cannot be found or does not have 2 columns. Exiting." << std::endl;
+        return false;
+    }
+    for (std::size_t i = 0; i < table.size(); i += 2) {
+        probes.x.push_back(table[i]);
+        probes.y.push_back(table[i + 1]);
+    }
+    return true;
+}
+
+/// Whether an argument belongs to a list of numbers, rather than being the next flag.
+bool isListed(const char* argument) {
+    return argument[0] != '-' || std::isdigit(static_cast<unsigned char>(argument[1])) != 0;
+}
+
+/// Takes pairs of x and y up to the next flag; a last one without its y is dropped.
+void takePositions(int count, const char** values, waveProbes& probes) {
+    for (int i = 0; i + 1 < count && isListed(values[i]) && isListed(values[i + 1]); i += 2) {
+        probes.x.push_back(std::strtod(values[i], nullptr));
+        probes.y.push_back(std::strtod(values[i + 1], nullptr));
+    }
+}
+
+} // namespace
+
+bool findProbes(int argc, const char** argv, const std::string& folder, waveProbes& probes) {
+    int flag = argc;
+    if (reader::findFlag("-domain", argc, argv, flag) && flag + 4 < argc) {
+        const probeGrid grid = readGrid(argv + flag + 1);
+        appendGrid(grid, probes);
+        std::cout << "Wave probes imported " << std::endl;
+        writeGrid(grid, folder);
+    } else if (reader::findFlag("-xyFile", argc, argv, flag)) {
+        return readProbes(flag + 1 < argc ? argv[flag + 1] : "", probes);
+    } else if (reader::findFlag("-positions", argc, argv, flag)) {
+        takePositions(argc - flag - 1, argv + flag + 1, probes);
+    } else {
+        std::cout << "Warning: No wave probes specified. Values will be printed for position "
+                     "(X,Y)=(0,0)."
+                  << std::endl;
+        probes.x.push_back(0.0);
+        probes.y.push_back(0.0);
+    }
+    return true;
+}

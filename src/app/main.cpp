@@ -4,6 +4,7 @@
 #include "app/meshConvert.hpp"
 #include "io/reader.hpp"
 #include "nemoh/setNemohCase.hpp"
+#include "waves/waveElevation.hpp"
 
 #include <iostream>
 #include <string>
@@ -47,6 +48,9 @@ int main(int argc, const char** argv) {
     }
     if (isAsked("-nemoh", argc, argv)) {
         return nemohProject(argc, argv);
+    }
+    if (isAsked("-waveElevation", argc, argv)) {
+        return waveElevation(argc, argv);
     }
     if (isAsked("-toJSON", argc, argv)) {
         return jsonFormat(argc, argv);

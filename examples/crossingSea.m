@@ -1,0 +1,10 @@
+% Swell along x under a wind sea along y, listed in crossingSea.dat:
+%   sorvikPre -waveElevation -f crossingSea.m -positions 0 0 30 -10 -o crossingSea
+environment.ground.level = -80; % m
+environment.wave = {
+   type     = custom;
+   file     = crossingSea.dat; % found from where sorvikPre is started
+   rampTime = 10; % s
+}
+simulation.time.end = 60;   % s
+simulation.print.dt = 0.25; % s

@@ -89,8 +89,11 @@ double stretched(double z, double eta, double h) {
     return h * (z + h) / (eta + h) - h;
 }
 
-double stillWaterDensity(double z) {
-    return z > globals::m_stillWaterLevel ? globals::m_rhoAir : globals::m_rhoWater;
+void setStillWaterDensity(int n, const double* z, double* density) {
+    for (int i = 0; i < n; ++i) {
+        const bool isAir = z[i] > globals::m_stillWaterLevel;
+        density[i] = isAir ? globals::m_rhoAir : globals::m_rhoWater;
+    }
 }
 
 /// The blocks of a point set of 3n doubles.
@@ -122,9 +125,9 @@ void waveModel::evaluate(int n, const double* positions, double* velocity, doubl
     const pointBlocks points(block, positions);
     const double level = globals::m_stillWaterLevel;
     if (!hasWaves) {
+        setStillWaterDensity(n, points.z, fluidDensity);
         for (int i = 0; i < n; ++i) {
             depthBelowSurface[i] = level - points.z[i];
-            fluidDensity[i] = stillWaterDensity(points.z[i]);
         }
         return;
     }
@@ -152,10 +155,7 @@ void waveModel::evaluateRho(int n, const double* positions, double* velocity, do
     if (isDisabled) {
         return;
     }
-    const pointBlocks points(n, positions);
-    for (int i = 0; i < n; ++i) {
-        fluidDensity[i] = stillWaterDensity(points.z[i]);
-    }
+    setStillWaterDensity(n, pointBlocks(n, positions).z, fluidDensity);
     matrixOp::scale(globals::m_dimensionNumber * n, 0.0, velocity);
     matrixOp::scale(globals::m_dimensionNumber * n, 0.0, acceleration);
 }

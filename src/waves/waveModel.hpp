@@ -14,7 +14,7 @@ class reader;
 ///
 /// Heights are global z coordinates [m]; the still water level, densities and gravity are those of
 /// `globals`. Points in space are blocks of 3n doubles: all x, all y, all z; velocities and
-/// accelerations likewise. Concrete models fill the trains in their constructors.
+/// accelerations likewise; 3n fits an int. Concrete models fill the trains in their constructors.
 class waveModel {
 public:
     /// Still water: depth 1000 m, gravity 9.81 m/s², density 1000 kg/m³.

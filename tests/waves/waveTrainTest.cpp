@@ -13,8 +13,10 @@ constexpr double g = 9.81;
 constexpr double rho = 1025;
 
 TEST(dispersion, isSolvedWhereTheBedIsFeltAndDeepBeyond) {
-    for (double h = 1; h <= 10000; h *= 1.7) {
-        for (double omega = 0.01; omega <= 60; omega *= 1.13) {
+    for (int i = 0; i <= 16; ++i) {
+        const double h = std::pow(10, i / 4.0); // 1 to 10,000 m
+        for (int j = 0; j <= 70; ++j) {
+            const double omega = 0.01 * std::pow(6000, j / 70.0); // 0.01 to 60 rad/s
             const double k = waveTrain::dispersionRelationFrom_w(omega, g, h);
             const double k0 = omega * omega / g;
             const double off = k0 * h > 2 * pi ? k - k0 : g * k * std::tanh(k * h) - omega * omega;

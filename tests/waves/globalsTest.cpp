@@ -3,11 +3,10 @@
 #include "waves/waveConfig.hpp"
 
 TEST(globals, takesTheInputOnceAndRefusesASecondOne) {
-    const freshGlobals fresh;
+    const reader second = configOf("environment.waterDensity = 1\nenvironment.airDensity = 7\n");
     globals::set(configOf("environment.gravity = -9.80665\nenvironment.waterLevel = 2\n"));
     EXPECT_EQ(globals::m_g, (std::vector<double>{0, 0, -9.80665}));
     EXPECT_EQ(globals::m_dimMap, (std::vector<double>{1, 0, 0, 0, 1, 0, 0, 0, 1}));
-    const reader second = configOf("environment.waterDensity = 1\nenvironment.airDensity = 7\n");
     EXPECT_EQ(outputOf([&] { globals::set(second); }),
               "Warning: You are attempting to redefine your static global definitions. Are you "
               "sure thats a good idea?... well, you can't!\n");
@@ -16,7 +15,7 @@ TEST(globals, takesTheInputOnceAndRefusesASecondOne) {
 }
 
 TEST(globals, mapsTwoDimensionsToTheVerticalPlane) {
-    const freshGlobals fresh;
+    configOf("");
     globals::set(2, {0, 0, -9.81}, 1000, 1, 0);
     EXPECT_EQ(globals::m_g, (std::vector<double>{0, -9.81}));
     EXPECT_EQ(globals::m_dimMap, (std::vector<double>{1, 0, 0, 0, 0, 1}));

@@ -79,6 +79,7 @@ TEST(Jonswap, followsTheSpectrum) {
 TEST(Jonswap, hasTheWaveHeightAndTheEnergyOfItsComponents) {
     const auto sea = jonswapOf("Hs = 2\ndirection = 30\n");
     EXPECT_NEAR(matrixOp::trapz(10, 0.1 * pi, sea->spectralDensity().data()), 2 * 2 / 16.0, 1e-15);
+    EXPECT_NEAR(sea->setS(0.2 * pi), sea->spectralDensity()[1], 1e-14);
     double half = 0;
     for (const waveComponent2D& one : sea->trains().front().components()) {
         half += one.amplitude() * one.amplitude() / 2;
@@ -141,6 +142,7 @@ TEST(waveInput, isRefusedWithItsKeyAndValue) {
         {custom + "amplitude = 1\nphase = 0\n", 1, "Cannot find value of environment.wave.freq"},
         {custom + "amplitude = 1 2\nfrequency = 1 2 3\nphase = 0 0\n", 255, noMatch},
         {custom + "file = none\n", 1, "Cannot read the wave file none"},
+        {file("uneven", "0\n1\n0.1\n0 0\n"), 255, "1 amplitudes, 1 frequencies, and 2 phases."},
         {file("blank", " \n"), 1, "blank of environment.wave.file holds no block"},
         {file("cut", "0\n1\n0.1\n"), 1, "cut ends within a block, expected a row of phases"},
     };
@@ -157,7 +159,6 @@ TEST(timeInstants, areCountedBeforeTheyAreComputed) {
     };
     EXPECT_EQ(instantsOf("1", "2", "0.3")[3], 3 * 0.3 + 1);
     EXPECT_EQ(instantsOf("1", "2", "0.3").count(), 4);
-    EXPECT_EQ(instantsOf("5", "0", "-2.5").count(), 3);
     EXPECT_EQ(instantsOf("0", "1e7", "1e-3").count(), 10000000001);
     EXPECT_EQ(instantsOf("0", "1", "-1e-300").count(), 0);
     EXPECT_EQ(readInstants(configOf("")).count(), 2001);

@@ -6,6 +6,7 @@
 #include "waves/waveConfig.hpp"
 
 #include <cmath>
+#include <memory>
 #include <vector>
 
 namespace {
@@ -24,9 +25,10 @@ TEST(waveModel, rampsUpFromRest) {
 }
 
 TEST(waveModel, isHydrostaticInStillWater) {
-    const freshGlobals fresh;
+    const reader config = configOf("environment.ground.level = -40\n");
     globals::set(3, {0, 0, -g}, 1025, 1.2, 3);
-    const waveModel model(configOf("environment.ground.level = -40\n"));
+    const waveModel model(config);
+    EXPECT_EQ(model.stretchingDepth(), 43);
     fluidState state(3);
     state.positions = {0, 0, 0, 0, 0, 0, 3, 3 + 1e-9, -7};
     state.velocity.assign(9, 5);
@@ -40,51 +42,47 @@ TEST(waveModel, isHydrostaticInStillWater) {
     EXPECT_EQ(p, (values{0, 0, 1025 * g * 10}));
 }
 
-/// A crest of 2 m at x = 0 over 1000 m, the wave 60 m long.
-class crest : public customWave {
-public:
-    crest() {
-        values omega = {std::sqrt(g * k)};
-        values phase = {0};
-        addWaveTrain(0, {2}, omega, phase, true);
-        finishTrains();
-        setTime(2 * pi / omega[0]);
-    }
-    const double k = 2 * pi / 60;
-};
+/// A crest at x = 0, 2 m over the water level of 5 m, at half its ramp; omega is 1 rad/s.
+std::unique_ptr<waveModel> crest() {
+    const reader config =
+        configOf("environment.wave = {\namplitude = 4\nfrequency = 1\nphase = 0\n"
+                 "useRadians = 1\ndepth = 1000\nrampTime = 12.566370614359172\n}\n");
+    globals::set(3, {0, 0, -g}, 1000, 1, 5);
+    std::unique_ptr<waveModel> sea;
+    outputOf([&] { sea = std::make_unique<customWave>(config); });
+    sea->setTime(2 * pi);
+    return sea;
+}
 
 TEST(waveModel, stretchesTheMotionToTheSurface) {
-    const freshGlobals fresh;
-    const crest sea;
+    const auto sea = crest();
     // Under the crest, above it, at the stretching depth of one wave length, over the trough.
-    const values at = {0, 0, 0, 30, 0, 0, 0, 0, 1.999999, 2.1, -60, -1};
+    const values at = {0, 0, 0, pi * g, 0, 0, 0, 0, 6.999999, 7.1, 5 - 2 * pi * g, 4};
     values u(12, 1), a(12, 1), density(4), depth(4);
-    sea.evaluate(4, at.data(), u.data(), a.data(), density.data(), depth.data());
+    sea->evaluate(4, at.data(), u.data(), a.data(), density.data(), depth.data());
     EXPECT_EQ(density, (values{1000, 1, 1000, 1}));
-    const double top = 2 * std::sqrt(g * sea.k);
-    EXPECT_NEAR(u[0], top, 1e-6);
+    EXPECT_NEAR(u[0], 2, 1e-6);
     EXPECT_EQ(u[1], 0);
-    EXPECT_NEAR(u[2], top * std::exp(-2 * pi), 1e-9);
-    EXPECT_NEAR(a[8], -2 * g * sea.k, 1e-6);
+    EXPECT_NEAR(u[2], 2 * std::exp(-2 * pi), 1e-9);
+    EXPECT_NEAR(a[8], -2, 1e-6);
     EXPECT_NEAR(depth[3], -1, 1e-9);
 
-    sea.evaluateRho(4, at.data(), u.data(), a.data(), density.data());
+    sea->evaluateRho(4, at.data(), u.data(), a.data(), density.data());
     EXPECT_EQ(density, (values{1, 1, 1000, 1000})) << "the surface is not asked";
     EXPECT_EQ(u, values(12));
 }
 
 TEST(waveModel, isWithoutPressureAtAndAboveTheSurface) {
-    const freshGlobals fresh;
-    const crest sea;
-    const values at = {0, 0, 0, 30, 0, 0, 0, 0, 2, 2.1, -900, -2.0000001};
+    const auto sea = crest();
+    const values at = {0, 0, 0, pi * g, 0, 0, 0, 0, 7, 7.1, -895, 2.9999999};
     values p(4, 7);
-    sea.pressure(4, at.data(), p.data());
+    sea->pressure(4, at.data(), p.data());
     EXPECT_NEAR(p[0], 0, 1e-6);
     EXPECT_EQ(p[1], 0);
     EXPECT_NEAR(p[2], 1000 * g * 900, 1e-6);
     EXPECT_NEAR(p[3], 0, 0.01);
     double eta = std::nan("");
-    sea.eta(1, at.data(), at.data(), &eta);
+    sea->eta(1, at.data(), at.data(), &eta);
     EXPECT_TRUE(std::isnan(eta)) << "what the caller had there stays";
 }
 

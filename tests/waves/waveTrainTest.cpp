@@ -103,19 +103,16 @@ TEST(waveTrain, appendsAndInfluencesDownToItsLongestWave) {
 }
 
 TEST(waveTrain, writesAllComponentsButReadsOne) {
-    const double k[] = {0.25, 4, 1};
+    const double k[] = {0.25, 4};
     waveTrain train(pi / 2, rho, g, 1e9);
     train.setFrom_k(2, amplitudes, k, phases);
-    std::ostringstream out;
-    out << train;
-    EXPECT_EQ(out.str(), "90\t2\t1.5\t0.25\t1.56605\t0.4\t0.7\t4\t6.26418\t-1\n");
-
-    std::istringstream in("180 3 1 2 3 4 \n next");
-    std::string rest;
-    in >> train >> rest;
-    EXPECT_EQ(rest, "next");
-    EXPECT_EQ(train.directionCosine(), -1);
-    ASSERT_EQ(train.components().size(), 3U);
+    std::stringstream text;
+    text << train;
+    EXPECT_EQ(text.str(), "90\t2\t1.5\t0.25\t1.56605\t0.4\t0.7\t4\t6.26418\t-1\n");
+    double next = 0;
+    text >> train >> next;
+    EXPECT_EQ(next, 0.7);
+    ASSERT_EQ(train.components().size(), 2U);
     EXPECT_EQ(train.components().front().amplitude(), 0);
 }
 

@@ -1,12 +1,11 @@
 #include "waves/Jonswap.hpp"
 
-#include "io/printer.hpp"
+#include "io/memory.hpp"
 #include "io/reader.hpp"
 #include "numerics/matrixOp.hpp"
 #include "waves/angles.hpp"
 #include "waves/globals.hpp"
 #include "waves/inputCheck.hpp"
-#include "waves/memory.hpp"
 
 #include <cmath>
 #include <iostream>
@@ -42,7 +41,8 @@ Jonswap::frequencyGrid Jonswap::readGrid(const reader& config, double frequencyF
         refuseInput(config, prefix + "components", n, "at least 2");
     }
     // The component, its density, frequency, amplitude and phase.
-    if (!fitsMemory(n, sizeof(waveComponent2D) + 4 * sizeof(double))) {
+    if (!memory::canHold(static_cast<std::size_t>(n),
+                         sizeof(waveComponent2D) + 4 * sizeof(double))) {
         refuseInput(config, prefix + "components", n, "a number that fits into memory");
     }
     const auto f0 = inputs.read<double>(prefix + "f0", 0.01);

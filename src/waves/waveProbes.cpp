@@ -1,8 +1,8 @@
 #include "waves/waveProbes.hpp"
 
+#include "io/memory.hpp"
 #include "io/reader.hpp"
 #include "waves/inputCheck.hpp"
-#include "waves/memory.hpp"
 #include "waves/numericTable.hpp"
 #include "waves/resultFile.hpp"
 
@@ -51,7 +51,7 @@ probeGrid readGrid(const char** values) {
 void appendGrid(const probeGrid& grid, waveProbes& probes) {
     const std::int64_t count = (std::int64_t(grid.nx) + 1) * (std::int64_t(grid.ny) + 1);
     constexpr std::size_t bytesPerProbe = 3 * sizeof(double); // x, y, elevation
-    if (count > maxProbes || !fitsMemory(count, bytesPerProbe)) {
+    if (count > maxProbes || !memory::canHold(static_cast<std::size_t>(count), bytesPerProbe)) {
         refuseInput("The number of probes of -domain", std::to_string(count),
                     "one that fits into memory");
     }

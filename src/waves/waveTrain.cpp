@@ -1,7 +1,7 @@
 #include "waves/waveTrain.hpp"
 
+#include "io/memory.hpp"
 #include "waves/angles.hpp"
-#include "waves/memory.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -116,12 +116,13 @@ std::istream& operator>>(std::istream& in, waveTrain& train) {
     train.sine = std::sin(radians);
 
     train.list.clear();
-    if (!fitsMemory(train.count, sizeof(waveComponent2D))) {
+    const auto listed = static_cast<std::size_t>(std::max(train.count, 0));
+    if (!memory::canHold(listed, sizeof(waveComponent2D))) {
         in.setstate(std::ios::failbit);
         return in;
     }
     const waveComponent2D neutral(train.g, train.h);
-    train.list.assign(static_cast<std::size_t>(std::max(train.count, 0)), neutral);
+    train.list.assign(listed, neutral);
     waveComponent2D passedOver = neutral;
     return in >> passedOver >> std::ws;
 }

@@ -1,36 +1,76 @@
 #pragma once
 
-#include <string>
 #include <vector>
 
-/// Kernels on plain arrays of doubles. Matrices are row-major; lengths below 1 do nothing.
+/// Element-wise kernels, sums and extremes of arrays of n doubles.
 namespace matrixOp {
 
-/// x[i] = a * x[i] for i < n.
+/// x[i] = a * x[i].
 void scale(int n, double const& a, double* x);
 
-/// Trapezoidal integral of n values at the uniform step dx; y[0] * dx for n = 1, 0 for n < 1.
-double trapz(int n, double dx, const double* y);
+/// y[i] += a * x[i].
+void axpy(int n, double const& a, const double* x, double* y);
 
-/// C (m x k) = A (m x n) times the transpose of B (k x n). C is first multiplied by 0, so that a
-/// NaN or an infinity in it stays.
-void MM(int const& m, int const& n, int const& k, const double* A, const double* B, double* C);
+/// y[i] = a * x[i].
+void axy(int n, double const& a, const double* x, double* y);
 
-/// y (m) = A (m x n) times x (n).
-void MV(int m, int n, const double* A, const double* x, double* y);
+/// y[i] = a + x[i].
+void apxy(int n, double const& a, const double* x, double* y);
 
-/// Adapts a vector of three components to `dim` dimensions: the first for 1, the first and the
-/// third for 2, all otherwise. One component becomes `dim` copies; other sizes stay.
-void projectToDim(int const& dim, std::vector<double>& v);
-void projectToDim(int const& dim, std::vector<int>& v);
-void projectToDim(int const& dim, std::vector<std::string>& v);
+/// z[i] = a * x[i] + y[i].
+void axpyz(int n, double const& a, const double* x, const double* y, double* z);
 
-/// Euclidean norms of n vectors whose components lie in blocks: out[i] = |(X[i], X[n+i], X[2n+i])|.
-void l2Norm1D(int const& n, const double* X, double* out);
-void l2Norm2D(int const& n, const double* X, double* out);
-void l2Norm3D(int const& n, const double* X, double* out);
+/// x[i] += a.
+void addConstant(int n, double const& a, double* x);
 
-/// The norm of the run's number of dimensions; that of three until it is set.
-extern void (*l2Norm)(int const& n, const double* X, double* out);
+/// Makes `x` a vector of n zeros.
+void zeros(int n, std::vector<double>& x);
+
+/// Element-wise products and quotients, written: z[i] = x[i] * y[i] and z[i] = x[i] / y[i].
+///
+/// With two sizes x and z hold m blocks of n values, and y the n values that serve every block:
+/// z[i*n + j] = x[i*n + j] * y[j]. Then y and z must not overlap.
+void componentMultiply(int n, const double* x, const double* y, double* z);
+void componentMultiply(int m, int n, const double* x, const double* y, double* z);
+void componentDivide(int n, const double* x, const double* y, double* z);
+void componentDivide(int m, int n, const double* x, const double* y, double* z);
+
+/// The same, added to z.
+void componentMultiplyAndAdd(int n, const double* x, const double* y, double* z);
+void componentMultiplyAndAdd(int m, int n, const double* x, const double* y, double* z);
+void componentDivideAndAdd(int n, const double* x, const double* y, double* z);
+void componentDivideAndAdd(int m, int n, const double* x, const double* y, double* z);
+
+/// Sum of x[i] * y[i], and of x[i]; 0 for n below 1.
+///
+/// Eight partial sums, each of every eighth term, keep the adders busy. They are joined as
+/// ((0+1)+(2+3)) + ((4+5)+(6+7)), and the last n modulo 8 terms follow from left to right.
+double dot(int n, const double* x, const double* y);
+double sum(int n, const double* x);
+
+/// Largest and smallest entry, and largest magnitude. Entries that are NaN are passed over; if no
+/// other is left, or for n below 1, the result is -infinity, +infinity and 0.
+double max(int n, const double* x);
+double min(int n, const double* x);
+double absmax(int n, const double* x);
+
+/// Index of the first entry with that value, which goes to `value`. Where there is none, -1, and
+/// `value` stays.
+int max(int n, const double* x, double& value);
+int min(int n, const double* x, double& value);
+int absmax(int n, const double* x, double& value);
+
+/// True if an entry is NaN.
+bool isnan(int n, const double* x);
+
+/// Limited slopes up to this magnitude count as flat.
+constexpr double flatSlope = 1e-17;
+
+/// Generalised minmod limiter (Kurganov and Tadmor): r is the smallest in magnitude of c*a, c*b and
+/// (a + b)/2 where the slopes a and b have one sign, otherwise 0.
+///
+/// c = 1 gives the plain minmod, c = 2 the monotonised central limiter. Returns whether |r| exceeds
+/// `flatSlope`, false also for NaN.
+bool minmod(double const& a, double const& b, double& r, double const& c);
 
 } // namespace matrixOp

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cmath>
+#include <cstddef>
+#include <random>
+#include <vector>
+
+using numbers = std::vector<double>;
+inline const double notANumber = std::nan("");
+
+/// Numbers in -1 to 1 whose sums depend on the order of summation.
+inline numbers randomNumbers(int count, unsigned seed) {
+    std::mt19937 random(seed);
+    numbers drawn(static_cast<std::size_t>(count));
+    for (double& number : drawn) {
+        number = static_cast<double>(random()) / 2147483648.0 - 1.0;
+    }
+    return drawn;
+}

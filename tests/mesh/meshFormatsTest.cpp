@@ -100,54 +100,6 @@ TEST(meshFormats, shareNodesWithinTheTolerance) {
     EXPECT_NE(out.str().find("\n1 2 3 1\n2 4 5 2\n0 0 0 0\n"), std::string::npos);
 }
 
-struct fileCase {
-    const char* what;
-    std::string content;
-    bool good;
-    int faces;
-    const char* said; ///< some of what is printed
-};
-
-void expectReads(const char* name, std::vector<fileCase> const& cases) {
-    const temporaryFolder folder;
-    for (fileCase const& c : cases) {
-        SCOPED_TRACE(c.what);
-        const std::string file = writeFile(folder.path(name), c.content);
-        bodyMesh mesh;
-        bool good = !c.good;
-        const std::string output = outputOf([&] { good = mesh.read(file); });
-        EXPECT_EQ(good, c.good);
-        EXPECT_EQ(mesh.nFaces, c.faces);
-        EXPECT_EQ(mesh.faces.size(), static_cast<std::size_t>(c.faces));
-        EXPECT_NE(output.find(c.said), std::string::npos) << output;
-    }
-}
-
-std::string replaced(std::string text, const std::string& from, const std::string& to) {
-    for (std::size_t at = 0; (at = text.find(from, at)) != std::string::npos; at += to.size()) {
-        text.replace(at, from.size(), to);
-    }
-    return text;
-}
-
-TEST(meshFormats, readStlDialects) {
-    const std::string capitals = replaced(
-        replaced(replaced(asciiFile, "solid", "SOLID"), "facet", "FACET"), "vertex", "VERTEX");
-    const std::string two = "solid x\n" + asciiFacet + asciiFacet + "endsolid\n";
-    expectReads("a.stl",
-                {{"as written", asciiFile, true, 1, " Read 1 triangles"},
-                 {"capitals", capitals, true, 1, " Read 1 triangles"},
-                 {"carriage returns", replaced(two, "\n", "\r\n"), true, 2, " Read 2 triangles"},
-                 {"blank lines and leading blanks", replaced(two, "endfacet\n", "endfacet\n\n  \n"),
-                  true, 2, " Read 2 triangles"},
-                 {"no end", "solid\n" + asciiFacet, false, 1, " Read 1 triangles"},
-                 {"cut off", two.substr(0, two.size() - 60), false, 2, " Read 2 triangles"}});
-    const temporaryFolder folder;
-    const std::string other = writeFile(folder.path("o.stl"), "Solid\n" + asciiFacet);
-    EXPECT_TRUE(bodyMesh::stl_isbinary(other));
-    EXPECT_EXIT_SAYING(bodyMesh().read(other), 1, "o.stl announces");
-}
-
 std::string binaryStl(const std::string& count, std::size_t records) {
     std::string record(50, '\0');
     record[15] = 0x3f; // A.x = 0.5
@@ -159,66 +111,40 @@ std::string binaryStl(const std::string& count, std::size_t records) {
 }
 
 TEST(meshFormats, readBinaryStlAsFarAsItGoes) {
-    const std::string three("\3\0\0\0", 4);
-    const std::string none("\0\0\0\0", 4);
-    expectReads("b.stl", {{"no facets", binaryStl(none, 0), true, 0, ""},
-                          {"three", binaryStl(three, 3), true, 3, ""},
-                          {"one too many", binaryStl(three, 4), true, 3, ""},
-                          {"one missing", binaryStl(three, 2), false, 3, ""},
-                          {"no file at all", "", false, 0, ""}});
     const temporaryFolder folder;
-    bodyMesh mesh;
-    mesh.stl_read(writeFile(folder.path("c.stl"), binaryStl(three, 1)));
-    EXPECT_EQ(mesh.faces[2].vertexA.x, 0.5F);
-    for (const char* count : {"\xff\xff\xff\xff", "\xff\xff\xff\x7f"}) {
-        writeFile(folder.path("huge.stl"), binaryStl(std::string(count, 4), 1));
-        EXPECT_EXIT_SAYING(mesh.stl_read(folder.path("huge.stl")), 1,
-                           "facets, more than memory can hold");
+    const std::string file = folder.path("a.stl");
+    const std::tuple<std::size_t, bool> cases[] = {{3, true}, {4, true}, {2, false}, {1, false}};
+    for (const auto& [records, isWhole] : cases) {
+        bodyMesh mesh;
+        writeFile(file, binaryStl(std::string("\3\0\0\0", 4), records));
+        EXPECT_EQ(mesh.stl_read(file), isWhole) << records;
+        ASSERT_EQ(mesh.faces.size(), 3U);
+        EXPECT_EQ(mesh.faces[2].vertexA.x, 0.5F);
     }
-}
-
-TEST(meshFormats, readGdfDialects) {
-    const std::string corners = "0 0 -1 2 0 -1 0 0.5 -1.25 0 0 -1\n";
-    const auto gdf = [&](const std::string& symmetry, const std::string& count, int records) {
-        std::string file = "head\n1.0 9.81 ! scale\n" + symmetry + " ! symmetry\n" + count + "\n";
-        for (; records > 0; --records) {
-            file += corners;
-        }
-        return file;
-    };
-    expectReads(
-        "a.gdf",
-        {{"three records, two panels", gdf("0 0", "3", 3), true, 2,
-          " Read 3 panels, out of which 4 were triangles. Generated 2 triangles.\n"
-          " GDF FILE READ COMPLETE. A total of  2 triangles generated \n"},
-         {"one number a line", gdf("0\n0", "1", 0) + replaced(corners, " ", "\n"), true, 1,
-          "Read 1 panels"},
-         {"a corner a line", replaced(gdf("0 0", "2", 2), "-1 ", "-1\n"), true, 1, "Read 2 panels"},
-         {"half hull", gdf("0 1", "1", 1), true, 2, "A total of  2 triangles"},
-         {"quarter hull", gdf("1 1", "1", 1), true, 4, "A total of  4 triangles"},
-         {"other flags mirror nothing", gdf("2 -1", "1", 1), true, 1, "A total of  1 triangles"},
-         {"no panels", gdf("0 0", "0", 1), true, 0, " Read 0 panels, out of which 0 were"},
-         {"a negative count", gdf("0 0", "-2", 1), false, 0, "Read 0 panels"},
-         {"fewer than announced", gdf("0 0", "9", 3), false, 2, "Read 3 panels"},
-         {"a broken last record", gdf("0 0", "3", 2) + "1 2 3", false, 1, "Read 2 panels"},
-         {"a word for a number", gdf("0 0", "2", 0) + corners + "1 x", false, 1, "Read 1 panels"},
-         {"no line end", gdf("0 0", "1", 0) + "0 0 -1 2 0 -1 0 0.5 -1.25 0 0 -1", true, 1, ""}});
-}
-
-TEST(meshFormats, readNemohDialects) {
-    const std::string nodes = "7 0 0 -1\n2 1 0 -1\n3 1 1 -1\n4 0 1 -1\n0 0. 0. 0.\n";
-    expectReads("a.nem",
-                {{"a triangle and the end", nemohFile, true, 2, ".nem"},
-                 {"a quadrilateral is split", "2 0\n" + nodes + "7 2 3 4\n0 0 0 0\n", true, 3, ""},
-                 {"half hull", "2 1\n" + nodes + "7 2 3 7\n0 0 0 0\n", true, 4, ""},
-                 {"no end", "2 0\n" + nodes + "7 2 3 7\n", true, 1, ""},
-                 {"unknown nodes", "2 0\n" + nodes + "99 2 -3 99\n", true, 1, ""},
-                 {"nothing", "", false, 0, ""}});
-    const temporaryFolder folder;
     bodyMesh mesh;
-    mesh.nemoh_read(writeFile(folder.path("q.dat"), "2 0\n" + nodes + "7 2 3 4"));
-    EXPECT_EQ(numbersOf(mesh), (std::vector<float>{0, 0, 1, 0, 0, -1, 1, 0, -1, 1, 1, -1, //
-                                                   0, 0, 1, 0, 0, -1, 1, 1, -1, 0, 1, -1}));
+    EXPECT_TRUE(mesh.stl_read(writeFile(file, binaryStl(std::string(4, '\0'), 0))));
+    EXPECT_FALSE(mesh.stl_read(writeFile(file, "")));
+    EXPECT_EQ(mesh.nFaces, 0);
+    for (const char* count : {"\xff\xff\xff\xff", "\xff\xff\xff\x7f"}) {
+        writeFile(file, binaryStl(std::string(count, 4), 1));
+        EXPECT_EXIT_SAYING(mesh.stl_read(file), 1, "facets, more than memory can hold");
+    }
+    writeFile(file, "Solid, with a capital,\n is no ASCII file\n" + asciiFacet);
+    EXPECT_EXIT_SAYING(mesh.read(file), 1, "a.stl announces");
+}
+
+TEST(meshFormats, tellBrokenTextFiles) {
+    const temporaryFolder folder;
+    const auto good = [&](const std::string& name, const std::string& content) {
+        return bodyMesh().read(writeFile(folder.path(name), content));
+    };
+    EXPECT_TRUE(good("a.stl", asciiFile));
+    EXPECT_FALSE(good("a.stl", asciiFile.substr(0, 90)));
+    EXPECT_TRUE(good("a.gdf", gdfFile));
+    EXPECT_FALSE(good("a.gdf", gdfFile.substr(0, gdfFile.size() - 4)));
+    EXPECT_FALSE(good("a.gdf", ""));
+    EXPECT_TRUE(good("a.nem", nemohFile));
+    EXPECT_FALSE(good("a.nem", ""));
 }
 
 TEST(meshFormats, areChosenByExtension) {

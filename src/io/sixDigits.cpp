@@ -1,6 +1,6 @@
 #include "io/sixDigits.hpp"
 
-#include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
@@ -8,86 +8,243 @@
 
 namespace {
 
-constexpr double smallest = 1e-4;
-constexpr double largest = 999999.0;
-/// Powers of ten that bring [1e-4, 1e-3), [1e-3, 1e-2), ... [1e5, 1e6) into [1e5, 1e6). All are
-/// exact, so that scaling rounds once.
-constexpr double scales[] = {1e9, 1e8, 1e7, 1e6, 1e5, 1e4, 1e3, 1e2, 1e1, 1e0};
+constexpr double powersOfTen[] = {1e-4, 1e-3, 1e-2, 1e-1, 1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6};
 constexpr int firstExponent = -4;
-/// More than the rounding error of a scaled value, 2^-34.
+/// Decades from 1e-4 to 1e6, between two for the magnitudes around them that share a power of two
+/// with them: they allow nothing.
+constexpr std::size_t firstDecade = 1;
+constexpr std::size_t lastDecade = 10;
+constexpr std::size_t decadeCount = 12;
+/// More than the rounding error of a scaled value, 2^-34, and of the sum that rounds it.
 constexpr double scalingError = 1e-9;
+/// A number rounds to the integer below the sum; where that is not the nearest, it is in doubt.
+constexpr double half = 0.5;
 /// Bounds beyond this share of the last digit could reach into the next finer decade.
 constexpr double largestBound = 0.04;
 
-constexpr char pairs[] =
-    "00010203040506070809101112131415161718192021222324252627282930313233343536"
-    "37383940414243444546474849505152535455565758596061626364656667686970717273"
-    "7475767778798081828384858687888990919293949596979899";
+/// How numbers of [10^e, 10^(e+1)) are scaled to six digits and laid out.
+struct alignas(64) decade {
+    /// Exact, so that scaling into [1e5, 1e6) rounds once.
+    double scale = 1;
+    /// Stands before the digits: "0.", "0.0" and so on for e < 0.
+    char prefix[8] = {};
+    std::size_t prefixLength = 0;
+    /// The length of the text of so many digits, prefix, point and zeros before the point included.
+    std::uint8_t lengths[8] = {};
+    /// Texts of eight characters are numbers here, the first in the lowest byte: where the point
+    /// stands, and which digits come before it (all if there is none to insert).
+    std::uint64_t point = 0;
+    std::uint64_t beforePoint = ~std::uint64_t(0);
+};
 
-/// Which of `scales` a magnitude in [smallest, largest) takes.
-int decade(double magnitude) {
-    return (magnitude >= 1e-3) + (magnitude >= 1e-2) + (magnitude >= 1e-1) + (magnitude >= 1e0) +
-           (magnitude >= 1e1) + (magnitude >= 1e2) + (magnitude >= 1e3) + (magnitude >= 1e4) +
-           (magnitude >= 1e5);
+constexpr std::array<decade, decadeCount> makeDecades() {
+    std::array<decade, decadeCount> decades;
+    for (std::size_t i = firstDecade; i <= lastDecade; ++i) {
+        decade& d = decades[i];
+        const int exponent = firstExponent + static_cast<int>(i - firstDecade);
+        for (int power = exponent; power < 5; ++power) {
+            d.scale *= 10;
+        }
+        if (exponent < 0) {
+            for (char& c : d.prefix) {
+                c = '0';
+            }
+            d.prefix[1] = '.';
+            d.prefixLength = static_cast<std::size_t>(1 - exponent);
+        } else {
+            d.point = std::uint64_t('.') << (8 * (exponent + 1));
+            d.beforePoint = (std::uint64_t(1) << (8 * (exponent + 1))) - 1;
+        }
+        for (int digits = 1; digits <= 6; ++digits) {
+            const int length = exponent < 0            ? 1 - exponent + digits
+                               : digits > exponent + 1 ? digits + 1
+                                                       : exponent + 1;
+            d.lengths[digits] = static_cast<std::uint8_t>(length);
+        }
+    }
+    return decades;
 }
 
-/// Writes the number digits[0].digits[1..5] times ten to the power of `exponent`, -4 to 5, without
-/// trailing zeros.
-char* layOut(char* out, std::uint32_t number, int exponent) {
-    char digits[6];
-    const std::size_t n = number;
-    std::memcpy(digits, pairs + 2 * (n / 10000), 2);
-    std::memcpy(digits + 2, pairs + 2 * (n / 100 % 100), 2);
-    std::memcpy(digits + 4, pairs + 2 * (n % 100), 2);
-    int count = 6;
-    while (digits[count - 1] == '0') {
-        --count;
+constexpr std::array<decade, decadeCount> decades = makeDecades();
+
+/// The decade of the numbers in [2^e, 2^(e+1)) that lie below `limit`; the others are in the next.
+struct binade {
+    std::size_t decade = 0;
+    double limit = 0;
+};
+
+constexpr int firstBinaryExponent = -14;
+constexpr std::size_t binadeCount = 34;
+
+constexpr std::array<binade, binadeCount> makeBinades() {
+    std::array<binade, binadeCount> binades;
+    double begin = 1.0 / (1 << -firstBinaryExponent);
+    for (binade& b : binades) {
+        while (powersOfTen[b.decade] <= begin) {
+            ++b.decade;
+        }
+        b.limit = powersOfTen[b.decade];
+        begin *= 2;
     }
-    if (exponent < 0) {
-        std::copy_n("0.000", 5, out);
-        out += 1 - exponent;
-        std::memcpy(out, digits, sizeof digits);
-        return out + count;
+    return binades;
+}
+
+constexpr std::array<binade, binadeCount> binades = makeBinades();
+
+/// By decade, how far from an integer a scaled value may lie to be certain; negative for never.
+using margins = std::array<double, decadeCount>;
+
+constexpr margins marginsOf(double bound) {
+    margins limits{};
+    for (std::size_t i = 0; i < decadeCount; ++i) {
+        const double doubt = bound * decades[i].scale + scalingError;
+        const bool isUsual = i >= firstDecade && i <= lastDecade;
+        limits[i] = isUsual && doubt <= largestBound ? half - doubt : -1.0;
     }
-    const int whole = exponent + 1;
-    std::memcpy(out, digits, sizeof digits);
-    if (count <= whole) {
-        return out + whole;
+    return limits;
+}
+
+constexpr margins exactMargins = marginsOf(0.0);
+
+/// The digits of 0 to 999, the first in the lowest byte.
+constexpr std::array<std::uint32_t, 1000> makeTriples() {
+    std::array<std::uint32_t, 1000> triples{};
+    for (std::uint32_t i = 0; i < triples.size(); ++i) {
+        triples[i] = ('0' + i / 100) | ('0' + i / 10 % 10) << 8 | ('0' + i % 10) << 16;
     }
-    out[whole] = '.';
-    std::memcpy(out + whole + 1, digits + whole, static_cast<std::size_t>(count - whole));
-    return out + count + 1;
+    return triples;
+}
+
+constexpr std::array<std::uint32_t, 1000> triples = makeTriples();
+
+constexpr unsigned countShift = 56;
+
+/// The same as last three of six digits, and in the highest byte how many of the three are left
+/// without trailing zeros.
+constexpr std::array<std::uint64_t, 1000> makeLastTriples() {
+    std::array<std::uint64_t, 1000> last{};
+    for (std::uint64_t i = 0; i < last.size(); ++i) {
+        const std::uint64_t count = i % 10 != 0 ? 3 : i % 100 != 0 ? 2 : i != 0 ? 1 : 0;
+        last[i] = std::uint64_t(triples[i]) << 24 | count << countShift;
+    }
+    return last;
+}
+
+constexpr std::array<std::uint64_t, 1000> lastTriples = makeLastTriples();
+
+/// Stores a text of eight characters; one machine store where bytes lie in that order.
+inline void store(char* out, std::uint64_t text) {
+    for (unsigned i = 0; i < 8; ++i) {
+        out[i] = static_cast<char>(text >> (8 * i));
+    }
+}
+
+/// Writes six digits as `d` lays them out, without trailing zeros behind the point.
+inline char* layOut(char* out, std::uint32_t number, const decade& d) {
+    const std::uint32_t high = number / 1000;
+    const std::uint64_t last = lastTriples[number % 1000];
+    const std::uint64_t digits = triples[high] | last;
+    std::size_t count = (last >> countShift) + 3;
+    if (count == 3) {
+        count = lastTriples[high] >> countShift;
+    }
+    std::memcpy(out, d.prefix, sizeof d.prefix);
+    store(out + d.prefixLength,
+          (digits & d.beforePoint) | d.point | (digits & ~d.beforePoint) << 8);
+    return out + d.lengths[count];
+}
+
+/// Writes `value` if its margin allows; otherwise, and outside the decades, returns nullptr.
+[[gnu::always_inline]] inline char* writeWithin(const margins& limits, char* out, double value) {
+    constexpr int mantissaBits = 52;
+    constexpr std::uint64_t firstBiased = 1023 + firstBinaryExponent;
+    const double magnitude = std::fabs(value);
+    std::uint64_t bits = 0;
+    std::memcpy(&bits, &magnitude, sizeof bits);
+    const std::uint64_t index = (bits >> mantissaBits) - firstBiased;
+    if (index >= binadeCount) {
+        return nullptr;
+    }
+    std::size_t d = binades[index].decade + (magnitude >= binades[index].limit ? 1 : 0);
+    const double scaled = magnitude * decades[d].scale;
+    auto number = static_cast<std::int32_t>(scaled + half);
+    if (!(std::fabs(scaled - number) < limits[d])) {
+        return nullptr;
+    }
+    if (number == 1000000) {
+        if (d == lastDecade) {
+            return nullptr;
+        }
+        number = 100000;
+        ++d;
+    }
+    *out = '-';
+    out += std::signbit(value) ? 1 : 0;
+    return layOut(out, static_cast<std::uint32_t>(number), decades[d]);
+}
+
+/// The same for magnitudes from 1e-16 to 1e-4, which take an exponent.
+char* writeSmall(char* out, double value, double bound) {
+    constexpr const decade& units = decades[firstDecade + std::size_t(-firstExponent)];
+    constexpr int leastExponent = -16;
+    const double magnitude = std::fabs(value);
+    if (!(magnitude < powersOfTen[0])) {
+        return nullptr;
+    }
+    int exponent = firstExponent - 1;
+    double scale = 1e10; // exact, and so are its multiples up to 1e22
+    for (; magnitude * scale < 1e5; scale *= 10) {
+        if (--exponent < leastExponent) {
+            return nullptr;
+        }
+    }
+    const double scaled = magnitude * scale;
+    const auto number = static_cast<std::int32_t>(scaled + half);
+    const double doubt = bound * scale + scalingError;
+    if (number >= 1000000 || doubt > largestBound || std::fabs(scaled - number) + doubt >= half) {
+        return nullptr;
+    }
+    *out = '-';
+    out += std::signbit(value) ? 1 : 0;
+    out = layOut(out, static_cast<std::uint32_t>(number), units);
+    out[0] = 'e';
+    out[1] = '-';
+    out[2] = static_cast<char>('0' - exponent / 10);
+    out[3] = static_cast<char>('0' - exponent % 10);
+    return out + 4;
+}
+
+[[gnu::always_inline]] inline char* writeCertain(const margins& limits, char* out, double value,
+                                                 double bound) {
+    char* end = writeWithin(limits, out, value);
+    return end != nullptr ? end : writeSmall(out, value, bound);
 }
 
 } // namespace
 
 char* sixDigits::writeIfCertain(char* out, double value, double bound) {
-    const double magnitude = std::fabs(value);
-    if (!(magnitude >= smallest && magnitude < largest)) {
-        return nullptr;
+    return writeCertain(marginsOf(bound), out, value, bound);
+}
+
+std::size_t sixDigits::writeColumns(char*& out, const double* values, std::size_t count,
+                                    double factor, double bound) {
+    const margins limits = marginsOf(bound);
+    char* end = out;
+    std::size_t written = 0;
+    for (; written < count; ++written) {
+        *end = '\t';
+        char* next = writeCertain(limits, end + 1, factor * values[written], bound);
+        if (next == nullptr) {
+            break;
+        }
+        end = next;
     }
-    const int d = decade(magnitude);
-    const double scaled = magnitude * scales[d];
-    const double doubt = bound * scales[d] + scalingError;
-    auto number = static_cast<std::uint32_t>(scaled);
-    const double rest = scaled - number;
-    if (!(std::fabs(rest - 0.5) > doubt) || doubt > largestBound) {
-        return nullptr;
-    }
-    number += rest > 0.5 ? 1 : 0;
-    int exponent = firstExponent + d;
-    if (number == 1000000) {
-        number = 100000;
-        ++exponent;
-    }
-    if (std::signbit(value)) {
-        *out++ = '-';
-    }
-    return layOut(out, number, exponent);
+    out = end;
+    return written;
 }
 
 char* sixDigits::write(char* out, double value) {
-    if (char* end = writeIfCertain(out, value, 0.0)) {
+    if (char* end = writeCertain(exactMargins, out, value, 0.0)) {
         return end;
     }
     if (value == 0.0) {
@@ -97,5 +254,5 @@ char* sixDigits::write(char* out, double value) {
         *out++ = '0';
         return out;
     }
-    return std::to_chars(out, out + maxLength, value, std::chars_format::general, 6).ptr;
+    return std::to_chars(out, out + room, value, std::chars_format::general, 6).ptr;
 }

@@ -2,6 +2,7 @@
 
 #include "io/sixDigits.hpp"
 
+#include <algorithm>
 #include <charconv>
 #include <cstring>
 #include <memory>
@@ -21,7 +22,7 @@ public:
     ~textWriter() { flush(); }
 
     textWriter& operator<<(double value) {
-        reserve(sixDigits::maxLength);
+        reserve(sixDigits::room);
         end = sixDigits::write(end, value);
         return *this;
     }
@@ -47,6 +48,25 @@ public:
         std::memcpy(end, text.data(), text.size());
         end += text.size();
         return *this;
+    }
+
+    /// Writes a tab and factor * value for each of `count` values until one is in doubt, that is
+    /// until not every number within `bound` of it has the same text. Returns how many were
+    /// written.
+    std::size_t writeColumns(const double* values, std::size_t count, double factor, double bound) {
+        constexpr std::size_t run = 1024;
+        std::size_t written = 0;
+        while (written < count) {
+            const std::size_t next = std::min(run, count - written);
+            reserve(next * (1 + sixDigits::room));
+            const std::size_t certain =
+                sixDigits::writeColumns(end, values + written, next, factor, bound);
+            written += certain;
+            if (certain < next) {
+                break;
+            }
+        }
+        return written;
     }
 
     /// Hands what is in the block to the stream.

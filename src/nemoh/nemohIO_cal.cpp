@@ -81,7 +81,7 @@ std::string nemohIO::printVal(double value) {
     using limits = std::numeric_limits<int>;
     const bool isInteger =
         value >= limits::min() && value <= limits::max() && value == std::trunc(value);
-    char text[sixDigits::maxLength];
+    char text[sixDigits::room];
     return std::string(text, sixDigits::write(text, value)) + (isInteger ? ". " : " ");
 }
 

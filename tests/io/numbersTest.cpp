@@ -1,9 +1,9 @@
+#include "support/numbers.hpp"
 #include "io/sixDigits.hpp"
 #include "io/textScanner.hpp"
 #include "support/files.hpp"
 
 #include <cmath>
-#include <cstring>
 #include <random>
 #include <sstream>
 #include <string>
@@ -13,37 +13,9 @@
 
 namespace {
 
-std::string streamText(double value) {
-    std::ostringstream out;
-    out << value;
-    return out.str();
-}
-
-/// Numbers of all magnitudes, those around 1 more often, and rounding halves with their neighbours.
-std::vector<double> manyNumbers(int count) {
-    std::mt19937_64 random(7);
-    std::vector<double> numbers = {0.0,       -0.0,         -1.0,         999999,    999999.5,
-                                   999998.5,  9.999995,     0.0001,       1e-300,    9.99999e-5,
-                                   99999.95,  1e300,        5e-324,       0.9999995, HUGE_VAL,
-                                   -HUGE_VAL, std::nan(""), -std::nan("")};
-    for (int i = 0; i < count; ++i) {
-        const std::uint64_t bits = random();
-        double any = 0;
-        std::memcpy(&any, &bits, sizeof any);
-        const double usual = std::ldexp(static_cast<double>(static_cast<std::int64_t>(random())),
-                                        -77 + static_cast<int>(random() % 34));
-        // A seventh digit of 5 is a tie before the binary error comes in.
-        const double half = (static_cast<double>(random() % 1000000) * 10 + 5) *
-                            std::pow(10.0, static_cast<double>(random() % 12) - 11);
-        numbers.insert(numbers.end(), {any, usual, static_cast<double>(static_cast<float>(usual)),
-                                       half, std::nextafter(half, 0), std::nextafter(half, 1e9)});
-    }
-    return numbers;
-}
-
 TEST(sixDigits, writesWhatTheStreamWrites) {
-    char text[sixDigits::maxLength];
-    for (const double value : manyNumbers(50000)) {
+    char text[sixDigits::room];
+    for (const double value : manyNumbers(7, 50000)) {
         ASSERT_EQ(std::string(text, sixDigits::write(text, value)), streamText(value))
             << std::hexfloat << value;
     }
@@ -51,9 +23,9 @@ TEST(sixDigits, writesWhatTheStreamWrites) {
 
 TEST(sixDigits, isCertainOnlyWhereTheBoundChangesNothing) {
     std::mt19937_64 random(11);
-    char text[sixDigits::maxLength];
+    char text[sixDigits::room];
     int certain = 0;
-    for (const double value : manyNumbers(20000)) {
+    for (const double value : manyNumbers(7, 20000)) {
         const double bound = std::fabs(value) * std::ldexp(1.0, -static_cast<int>(random() % 60));
         if (char* end = sixDigits::writeIfCertain(text, value, bound)) {
             const std::string found(&text[0], end);

@@ -2,28 +2,101 @@
 
 #include "io/printer.hpp"
 #include "io/textWriter.hpp"
+#include "waves/elevationChunks.hpp"
 #include "waves/waveModel.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+/// The sea, the probes, the time axis and the file of one table.
+struct elevationTable {
+    waveModel& model;
+    const std::vector<double>& x;
+    const std::vector<double>& y;
+    const timeInstants& instants;
+    textWriter writer;
+    int shown = 0;
+
+    void showProgress(double t) { printer::showProgress(t, instants[instants.count() - 1], shown); }
+};
+
+/// Writes the lines from the sum of cosines as it stands in the model.
+void writeDirect(elevationTable& table, std::ostream& out) {
+    std::vector<double> elevation(table.x.size(), 0.0);
+    for (std::int64_t i = 0; i < table.instants.count() && out.good(); ++i) {
+        const double t = table.instants[i];
+        table.showProgress(t);
+        table.model.setTime(t);
+        table.model.eta(static_cast<int>(elevation.size()), table.x.data(), table.y.data(),
+                        elevation.data());
+        table.writer << t;
+        for (const double value : elevation) {
+            table.writer << '\t' << value;
+        }
+        table.writer << '\n';
+    }
+}
+
+/// The elevation of probe `j` at the instant `t` by the sum of cosines.
+double directElevation(elevationTable& table, double t, std::size_t j) {
+    double elevation = 0.0;
+    table.model.setTime(t);
+    table.model.eta(1, &table.x[j], &table.y[j], &elevation);
+    return elevation;
+}
+
+/// Writes the elevations at the instant `t`: `sums`, which lie within `bound` of those of the model
+/// before the ramp, times the ramp factor. What the bound leaves in doubt is computed directly.
+void writeElevations(elevationTable& table, double t, const double* sums, double bound) {
+    const double ramp = table.model.rampFactorAt(t);
+    const std::size_t count = table.x.size();
+    std::size_t j = 0;
+    while (true) {
+        j += table.writer.writeColumns(sums + j, count - j, ramp, ramp * bound);
+        if (j == count) {
+            return;
+        }
+        // At rest, zeros carry the sign of the sum.
+        const bool isSignedZero = ramp == 0.0 && std::fabs(sums[j]) > bound;
+        table.writer << '\t' << (isSignedZero ? ramp * sums[j] : directElevation(table, t, j));
+        ++j;
+    }
+}
+
+/// Writes the lines from chunks of phasor sums, with the text of the direct way.
+void writeChunks(elevationTable& table, const std::vector<planeWave>& waves, std::ostream& out) {
+    const double bound = elevationBound(waves, table.x, table.y, table.instants);
+    elevationChunks chunks(waves, table.x, table.y, table.instants);
+    const std::int64_t count = table.instants.count();
+    for (std::int64_t first = 0; first < count && out.good(); first += chunks.length()) {
+        chunks.compute(first);
+        const std::int64_t rows = std::min(chunks.length(), count - first);
+        for (std::int64_t row = 0; row < rows && out.good(); ++row) {
+            const double t = table.instants[first + row];
+            table.showProgress(t);
+            table.writer << t;
+            writeElevations(table, t, chunks.row(row), bound);
+            table.writer << '\n';
+        }
+    }
+}
+
+} // namespace
 
 void writeElevationTable(waveModel& model, const std::vector<double>& x,
                          const std::vector<double>& y, const timeInstants& instants,
                          std::ostream& out) {
-    const std::int64_t count = instants.count();
-    if (count < 1) {
+    if (instants.count() < 1) {
         return;
     }
-    const double lastInstant = instants[count - 1];
-    std::vector<double> elevation(x.size(), 0.0);
-    textWriter writer(out);
-    int shown = 0;
-    for (std::int64_t i = 0; i < count && out.good(); ++i) {
-        const double t = instants[i];
-        printer::showProgress(t, lastInstant, shown);
-        model.setTime(t);
-        model.eta(static_cast<int>(x.size()), x.data(), y.data(), elevation.data());
-        writer << t;
-        for (const double value : elevation) {
-            writer << '\t' << value;
-        }
-        writer << '\n';
+    elevationTable table{model, x, y, instants, textWriter(out)};
+    const std::vector<planeWave> waves = planeWavesOf(model);
+    if (suitsElevationChunks(waves, x, y, instants)) {
+        writeChunks(table, waves, out);
+    } else {
+        writeDirect(table, out);
     }
+    model.setTime(instants[instants.count() - 1]);
 }

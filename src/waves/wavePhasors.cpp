@@ -1,0 +1,105 @@
+#include "waves/wavePhasors.hpp"
+
+#include "waves/elevationKernel.hpp"
+#include "waves/timeInstants.hpp"
+#include "waves/waveModel.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+using elevationKernel::width;
+
+std::vector<planeWave> planeWavesOf(const waveModel& model) {
+    std::vector<planeWave> waves;
+    for (const waveTrain& train : model.trains()) {
+        for (const waveComponent2D& component : train.components()) {
+            waves.push_back({component.amplitude(), component.waveNumber(),
+                             component.angularFrequency(), component.phase(),
+                             train.directionCosine(), train.directionSine()});
+        }
+    }
+    return waves;
+}
+
+probePhasors::probePhasors(const std::vector<planeWave>& components, const std::vector<double>& xs,
+                           const std::vector<double>& ys, std::size_t largestTable)
+    : waves(components), x(xs), y(ys), panels((x.size() + width - 1) / width),
+      panelSize(2 * waves.size() * width),
+      kept(panels <= largestTable / sizeof(double) / panelSize) {
+    table.resize(kept ? panels * panelSize : panelSize);
+    for (std::size_t p = 0; kept && p < panels; ++p) {
+        fill(p, table.data() + p * panelSize);
+    }
+}
+
+const double* probePhasors::panel(std::size_t index) {
+    if (kept) {
+        return table.data() + index * panelSize;
+    }
+    fill(index, table.data());
+    return table.data();
+}
+
+void probePhasors::fill(std::size_t index, double* panel) const {
+    double* real = panel;
+    double* imaginary = panel + panelSize / 2;
+    for (const planeWave& wave : waves) {
+        for (std::size_t j = 0; j < width; ++j) {
+            const std::size_t probe = std::min(index * width + j, x.size() - 1);
+            const double s = x[probe] * wave.directionCosine + y[probe] * wave.directionSine;
+            const double angle = wave.waveNumber * s;
+            *real++ = wave.amplitude * std::cos(angle);
+            *imaginary++ = wave.amplitude * std::sin(angle);
+        }
+    }
+}
+
+timePhasors::timePhasors(std::size_t waves, std::size_t panelCount)
+    : panels(panelCount), cosines(waves * panels * width), sines(cosines.size()) {}
+
+template <typename angle>
+void timePhasors::fill(std::size_t waves, const angle& angleOf) {
+    std::size_t next = 0;
+    for (std::size_t p = 0; p < panels; ++p) {
+        for (std::size_t c = 0; c < waves; ++c) {
+            for (std::size_t i = 0; i < width; ++i) {
+                const double theta = angleOf(c, p * width + i);
+                cosines[next] = std::cos(theta);
+                sines[next] = std::sin(theta);
+                ++next;
+            }
+        }
+    }
+}
+
+void timePhasors::setInstants(const std::vector<planeWave>& waves, const timeInstants& instants,
+                              std::int64_t first, std::int64_t count) {
+    fill(waves.size(), [&](std::size_t c, std::size_t i) {
+        const double t = instants[first + std::min(static_cast<std::int64_t>(i), count - 1)];
+        return waves[c].omega * t - waves[c].phase;
+    });
+}
+
+void timePhasors::setHalfSteps(const std::vector<planeWave>& waves, double step) {
+    fill(waves.size(), [&](std::size_t c, std::size_t m) {
+        return waves[c].omega * ((static_cast<double>(m) + 0.5) * step);
+    });
+}
+
+phasorTurn::phasorTurn(const std::vector<planeWave>& waves, double t) {
+    for (const planeWave& wave : waves) {
+        const double angle = wave.omega * t - wave.phase;
+        cosines.push_back(std::cos(angle));
+        sines.push_back(std::sin(angle));
+    }
+}
+
+void phasorTurn::apply(const double* panel, double* turned) const {
+    const std::size_t half = cosines.size() * width;
+    for (std::size_t c = 0; c < cosines.size(); ++c) {
+        for (std::size_t j = c * width; j < (c + 1) * width; ++j) {
+            turned[j] = panel[j] * cosines[c] + panel[half + j] * sines[c];
+            turned[half + j] = panel[half + j] * cosines[c] - panel[j] * sines[c];
+        }
+    }
+}

@@ -1,0 +1,85 @@
+#include "support/randomSea.hpp"
+
+#include "io/reader.hpp"
+
+#include <ostream>
+#include <string>
+#include <utility>
+
+namespace {
+
+reader configWith(double ramp) {
+    reader config;
+    config.inputs.set("environment.wave.rampTime", std::to_string(ramp));
+    return config;
+}
+
+double uniform(std::mt19937& random, double low, double high) {
+    return low + (high - low) * static_cast<double>(random()) / 0x1p32;
+}
+
+int upTo(std::mt19937& random, int most) {
+    return 1 + static_cast<int>(random() % static_cast<unsigned>(most));
+}
+
+timeInstants randomInstants(std::mt19937& random, int size) {
+    if (random() % 2 == 0) {
+        const double starts[] = {0.0, uniform(random, -100.0, 10'000.0), 1e6};
+        return {starts[random() % 3], uniform(random, 0.01, 800.0 / size), size};
+    }
+    std::vector<double> list = {0.0};
+    while (list.size() < static_cast<std::size_t>(size)) {
+        list.push_back(uniform(random, 0.0, 10'800.0));
+    }
+    return timeInstants(list);
+}
+
+} // namespace
+
+testSea::testSea(double ramp) : waveModel(configWith(ramp)) {}
+
+void testSea::add(double direction, int count, const double* a, const double* omega,
+                  const double* phase) {
+    addTrain(direction).setFrom_w(count, a, omega, phase);
+    finishTrains();
+}
+
+void testSea::addRandom(std::mt19937& random, int count) {
+    std::vector<double> a;
+    std::vector<double> omega;
+    std::vector<double> phase;
+    for (int i = 0; i < count; ++i) {
+        a.push_back(uniform(random, 0.0, 4.0 / count));
+        omega.push_back(uniform(random, 0.2, 3.0));
+        phase.push_back(uniform(random, 0.0, 6.3));
+    }
+    add(uniform(random, -4.0, 4.0), count, a.data(), omega.data(), phase.data());
+}
+
+randomTable::randomTable(unsigned seed, int size) : randomTable(std::mt19937(seed), size) {}
+
+randomTable::randomTable(std::mt19937&& random, int size)
+    : sea(random() % 2 == 0 ? 0.0 : uniform(random, 1.0, 50.0)),
+      instants(randomInstants(random, size)) {
+    for (int trains = upTo(random, 4); trains > 0; --trains) {
+        sea.addRandom(random, upTo(random, 40));
+    }
+    for (int probes = upTo(random, size); probes > 0; --probes) {
+        x.push_back(uniform(random, -5000.0, 5000.0));
+        y.push_back(uniform(random, -5000.0, 5000.0));
+    }
+}
+
+void writePlainTable(waveModel& model, const std::vector<double>& x, const std::vector<double>& y,
+                     const timeInstants& instants, std::ostream& out) {
+    std::vector<double> elevation(x.size(), 0.0);
+    for (std::int64_t i = 0; i < instants.count(); ++i) {
+        model.setTime(instants[i]);
+        model.eta(static_cast<int>(x.size()), x.data(), y.data(), elevation.data());
+        out << instants[i];
+        for (const double value : elevation) {
+            out << '\t' << value;
+        }
+        out << '\n';
+    }
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "waves/timeInstants.hpp"
+#include "waves/waveModel.hpp"
+
+#include <iosfwd>
+#include <random>
+#include <vector>
+
+/// A sea state of any components, 1000 m deep.
+class testSea : public waveModel {
+public:
+    explicit testSea(double ramp = 0.0);
+
+    /// Adds a train of the direction [rad] with `count` components.
+    void add(double direction, int count, const double* a, const double* omega,
+             const double* phase);
+    /// The same of random components with 0.2 to 3 rad/s.
+    void addRandom(std::mt19937& random, int count);
+};
+
+/// The input of an elevation table: up to four trains, up to `size` probes within 5 km, about
+/// `size` instants within 10,800 s, or late enough for rounding to be felt, even or listed, with a
+/// ramp or without.
+struct randomTable {
+    randomTable(unsigned seed, int size);
+
+    testSea sea;
+    std::vector<double> x;
+    std::vector<double> y;
+    timeInstants instants;
+
+private:
+    randomTable(std::mt19937&& random, int size);
+};
+
+/// The elevation table by the plain loop: `setTime`, `eta` of all points, and the stream's numbers.
+void writePlainTable(waveModel& model, const std::vector<double>& x, const std::vector<double>& y,
+                     const timeInstants& instants, std::ostream& out);

@@ -1,0 +1,121 @@
+#include "waves/elevationTable.hpp"
+#include "support/program.hpp"
+#include "support/randomSea.hpp"
+#include "waves/elevationChunks.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+constexpr double infinity = std::numeric_limits<double>::infinity();
+
+std::string textOf(decltype(&writeElevationTable) write, waveModel& sea,
+                   const std::vector<double>& x, const std::vector<double>& y,
+                   const timeInstants& instants) {
+    std::ostringstream out;
+    outputOf([&] { write(sea, x, y, instants, out); }); // keeps the progress bar off the console
+    return out.str();
+}
+
+TEST(elevationTable, isThePlainLoopByteForByte) {
+    for (unsigned seed = 0; seed < 40; ++seed) {
+        SCOPED_TRACE(seed);
+        randomTable t(seed, seed % 8 == 0 ? 300 : 40);
+        ASSERT_TRUE(suitsElevationChunks(planeWavesOf(t.sea), t.x, t.y, t.instants));
+        ASSERT_EQ(textOf(writeElevationTable, t.sea, t.x, t.y, t.instants),
+                  textOf(writePlainTable, t.sea, t.x, t.y, t.instants));
+    }
+}
+
+/// The largest distance of the chunks' elevations from those of the model at full ramp.
+double largestError(randomTable& t, std::size_t tableBytes) {
+    const std::vector<planeWave> waves = planeWavesOf(t.sea);
+    elevationChunks chunks(waves, t.x, t.y, t.instants, tableBytes);
+    double largest = 0;
+    for (std::int64_t i = 0; i < t.instants.count(); ++i) {
+        if (i % chunks.length() == 0) {
+            chunks.compute(i);
+        }
+        t.sea.setTime(t.instants[i]);
+        for (std::size_t j = 0; j < t.x.size(); ++j) {
+            double sum = 0;
+            for (const waveTrain& train : t.sea.trains()) {
+                sum += train.eta(t.x[j], t.y[j]);
+            }
+            largest = std::max(largest, std::fabs(chunks.row(i % chunks.length())[j] - sum));
+        }
+    }
+    return largest;
+}
+
+TEST(elevationChunks, staysWithinTheBound) {
+    for (unsigned seed = 100; seed < 120; ++seed) {
+        SCOPED_TRACE(seed);
+        randomTable t(seed, 40);
+        const double bound = elevationBound(planeWavesOf(t.sea), t.x, t.y, t.instants);
+        EXPECT_LT(largestError(t, elevationChunks::usualTable), bound);
+        EXPECT_LT(largestError(t, 0), bound) << "with phasors computed for each chunk";
+    }
+}
+
+struct oddTable {
+    const char* what;
+    double amplitude;
+    double omega;
+    std::vector<double> x;
+    std::vector<double> listed; ///< instants; 0, 0.5, 1 where there are none
+};
+
+const oddTable oddTables[] = {
+    {"no amplitude", 0.0, 1.0, {0, 1}, {}},
+    {"an amplitude that is no number", notANumber, 1.0, {0, 1}, {}},
+    {"an infinite amplitude", infinity, 1.0, {0, 1}, {}},
+    {"tiny and huge numbers", 3e-9, 1.0, {0, 1}, {1, 2, 3}},
+    {"beyond six digits", 3e7, 1.0, {0, 1}, {1, 2, 3}},
+    {"angles without an accurate bit", 1.0, 1e3, {0, 1e14}, {1, 1e20}},
+    {"a probe nowhere", 1.0, 1.0, {0, notANumber, -infinity, 3}, {}},
+    {"no probe", 1.0, 1.0, {}, {}},
+    {"an instant that is no number spoils those after it", 1.0, 1.0, {0, 1}, {1, notANumber, 2}},
+    {"an infinite instant", 1.0, 1.0, {0, 1}, {1, infinity, 2}},
+    {"before the start", 1.0, 1.0, {0, 1}, {-3, -2, -1}},
+};
+
+TEST(elevationTable, isThePlainLoopInOddCases) {
+    for (const oddTable& c : oddTables) {
+        SCOPED_TRACE(c.what);
+        testSea sea(5.0);
+        const double phase = 2.0;
+        sea.add(0.5, 0, nullptr, nullptr, nullptr);
+        sea.add(0.1, 1, &c.amplitude, &c.omega, &phase);
+        const timeInstants instants =
+            c.listed.empty() ? timeInstants(0.0, 0.5, 3) : timeInstants(c.listed);
+        EXPECT_EQ(textOf(writeElevationTable, sea, c.x, c.x, instants),
+                  textOf(writePlainTable, sea, c.x, c.x, instants));
+    }
+}
+
+TEST(elevationTable, signsTheZerosOfTheRestingSea) {
+    testSea sea;
+    const double one = 1.0;
+    const double zero = 0.0;
+    sea.add(0.0, 1, &one, &one, &zero);
+    const double half = 9.81 * std::acos(-1.0); // half a wave length of 1 rad/s in deep water
+    EXPECT_EQ(textOf(writeElevationTable, sea, {0, half}, {0, 0}, timeInstants(0, 1, 2)),
+              "0\t0\t-0\n1\t0.540302\t-0.540302\n");
+    const double halfTurn = std::acos(-1.0); // cancels all but rounding errors, which have signs
+    sea.add(0.0, 1, &one, &one, &halfTurn);
+    const std::vector<double> x = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9};
+    EXPECT_EQ(textOf(writeElevationTable, sea, x, x, timeInstants(0, 1, 1)),
+              textOf(writePlainTable, sea, x, x, timeInstants(0, 1, 1)));
+    testSea still;
+    EXPECT_EQ(textOf(writeElevationTable, still, {0, 7}, {0, 0}, timeInstants(0, 1, 2)),
+              "0\t0\t0\n1\t0\t0\n");
+}
+
+} // namespace

@@ -1,7 +1,6 @@
 #include "mesh/bodyMesh.hpp"
 
-#include "io/textScanner.hpp"
-#include "io/textWriter.hpp"
+#include "mesh/pointText.hpp"
 
 #include <fstream>
 #include <iostream>
@@ -34,23 +33,15 @@ gdfHeader readHeader(textScanner& in) {
     return header;
 }
 
-v3<float> readCorner(textScanner& in) {
-    v3<float> corner;
-    in.read(corner.x);
-    in.read(corner.y);
-    in.read(corner.z);
-    return corner;
-}
-
 /// Appends the panels of the records in odd places, each as the triangle of its first three
 /// corners; those in even places make none. Returns the number of whole records read.
 int readPanels(textScanner& in, int announced, std::vector<triangle>& faces) {
     int records = 0;
     while (records < announced && in.good()) {
-        const v3<float> a = readCorner(in);
-        const v3<float> b = readCorner(in);
-        const v3<float> c = readCorner(in);
-        readCorner(in);
+        const v3<float> a = readPoint(in);
+        const v3<float> b = readPoint(in);
+        const v3<float> c = readPoint(in);
+        readPoint(in);
         if (in.failed()) {
             break;
         }
@@ -60,10 +51,6 @@ int readPanels(textScanner& in, int announced, std::vector<triangle>& faces) {
         ++records;
     }
     return records;
-}
-
-void writeCorner(textWriter& out, v3<float> const& v, char separator) {
-    out << v.x << ' ' << v.y << ' ' << v.z << separator;
 }
 
 } // namespace
@@ -100,9 +87,7 @@ void bodyMesh::gdf_print(std::string const& file, bool wetOnly, double ULEN, dou
     out << "0 0\t ISX ISY\n";
     out << (wetOnly ? static_cast<int>(wetFaces.size()) : nFaces) << '\n';
     forChosen(wetOnly, [&](triangle const& panel) {
-        writeCorner(out, panel.vertexA, ' ');
-        writeCorner(out, panel.vertexB, ' ');
-        writeCorner(out, panel.vertexC, ' ');
-        writeCorner(out, panel.vertexA, '\n');
+        out << panel.vertexA << ' ' << panel.vertexB << ' ' << panel.vertexC << ' ' << panel.vertexA
+            << '\n';
     });
 }

@@ -1,8 +1,7 @@
 #include "mesh/bodyMesh.hpp"
 
-#include "io/textScanner.hpp"
-#include "io/textWriter.hpp"
 #include "mesh/nodeMatcher.hpp"
+#include "mesh/pointText.hpp"
 
 #include <fstream>
 #include <iostream>
@@ -54,14 +53,6 @@ int readHeader(textScanner& in, int& firstNode) {
     in.read(symmetry);
     in.read(firstNode);
     return symmetry;
-}
-
-v3<float> readPoint(textScanner& in) {
-    v3<float> point;
-    in.read(point.x);
-    in.read(point.y);
-    in.read(point.z);
-    return point;
 }
 
 /// Reads the nodes from number `first` on, and the line that ends them.
@@ -150,7 +141,7 @@ int bodyMesh::nemoh_write(std::ostream& stream) const {
     out << "2 0\n";
     int number = 0;
     for (v3<float> const& node : matcher.nodes()) {
-        out << ++number << ' ' << node.x << ' ' << node.y << ' ' << node.z << '\n';
+        out << ++number << ' ' << node << '\n';
     }
     out << "0 0. 0. 0.\n";
     std::vector<int> const& corners = matcher.corners();

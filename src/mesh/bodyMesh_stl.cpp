@@ -2,8 +2,7 @@
 
 #include "io/memory.hpp"
 #include "io/printer.hpp"
-#include "io/textScanner.hpp"
-#include "io/textWriter.hpp"
+#include "mesh/pointText.hpp"
 
 #include <algorithm>
 #include <cstdint>
@@ -172,17 +171,10 @@ bool isFacetNext(textScanner& in) {
     return in.good() && (next & ~lowerCaseBit) == 'F';
 }
 
-void writeVector(textWriter& out, v3<float> const& v) {
-    out << v.x << ' ' << v.y << ' ' << v.z << '\n';
-}
-
 void writeFacet(textWriter& out, triangle const& panel) {
-    out << "\tfacet normal ";
-    writeVector(out, panel.normal);
-    out << "\t\touter loop\n";
+    out << "\tfacet normal " << panel.normal << "\n\t\touter loop\n";
     for (auto corner : {&triangle::vertexA, &triangle::vertexB, &triangle::vertexC}) {
-        out << "\t\t\tvertex ";
-        writeVector(out, panel.*corner);
+        out << "\t\t\tvertex " << panel.*corner << '\n';
     }
     out << "\t\tendloop\n\tendfacet\n";
 }

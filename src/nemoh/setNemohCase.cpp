@@ -37,6 +37,16 @@ void printFatal(const std::string& message) {
     std::cout << " FATAL ERROR: " << message << std::endl;
 }
 
+/// The text of a key, or what is wrong without it.
+std::optional<std::string> required(inputMap const& inputs, const char* key, const char* message) {
+    const auto entry = inputs.map.find(key);
+    if (entry == inputs.map.end()) {
+        std::cout << " ERROR: " << message << std::endl;
+        return std::nullopt;
+    }
+    return entry->second;
+}
+
 void writeEnvironment(inputMap const& inputs, nemohIO& project) {
     const double density = inputs.read("environment.waterDensity", 1000.0);
     const double gravity = inputs.read("environment.gravity", -9.81);
@@ -160,27 +170,25 @@ void writeLoadCases(inputMap const& inputs, nemohIO& project) {
 } // namespace
 
 int setNemohCase(inputMap const& inputs) {
-    const auto output = inputs.map.find("bem.output");
-    if (output == inputs.map.end()) {
-        // The message names a longer key than the one that is read; callers count on both.
-        std::cout << " ERROR: No output specified. Please specify output folder as "
-                     "bem.nemoh.output= <myNemohResults>"
-                  << std::endl;
+    // The message names a longer key than the one that is read; callers count on both.
+    const auto output = required(inputs, "bem.output",
+                                 "No output specified. Please specify output folder as "
+                                 "bem.nemoh.output= <myNemohResults>");
+    if (!output) {
         return -1;
     }
-    const std::string& folder = output->second;
+    const std::string& folder = *output;
     nemohIO project(folder);
-    const auto body = inputs.map.find("bem.body");
-    if (body == inputs.map.end()) {
-        std::cout << " ERROR: No body specified. Please specify a hydrodynamic body name in "
-                     "bem.body"
-                  << std::endl;
+    const auto body =
+        required(inputs, "bem.body",
+                 "No body specified. Please specify a hydrodynamic body name in bem.body");
+    if (!body) {
         return -1;
     }
-    std::cout << body->second << std::endl;
+    std::cout << *body << std::endl;
     writeEnvironment(inputs, project);
 
-    const bodySettings settings = readBodySettings(inputs, body->second);
+    const bodySettings settings = readBodySettings(inputs, *body);
     if (!areUsable(settings)) {
         return -1;
     }

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "io/textScanner.hpp"
+#include "io/textWriter.hpp"
+#include "mesh/v3.hpp"
+
+/// Writes "x y z".
+inline textWriter& operator<<(textWriter& out, v3<float> const& p) {
+    return out << p.x << ' ' << p.y << ' ' << p.z;
+}
+
+/// Reads three numbers; those that are missing are 0.
+inline v3<float> readPoint(textScanner& in) {
+    v3<float> p;
+    in.read(p.x);
+    in.read(p.y);
+    in.read(p.z);
+    return p;
+}

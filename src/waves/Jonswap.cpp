@@ -62,7 +62,7 @@ double Jonswap::setS(const double& omega) const {
     const double sigma = omegaP >= omega ? sigma1 : sigma2;
     const double offPeak = omega / omegaP - 1;
     const double r = std::exp(-(offPeak * offPeak) / (2 * sigma * sigma));
-    return 2 * pi * alpha * g * g * std::pow(omega, -5.0) *
+    return 2 * pi * alpha * (g * g) * std::pow(omega, -5.0) *
            std::exp(-1.25 * std::pow(omegaP / omega, 4.0)) * std::pow(gamma, r);
 }
 

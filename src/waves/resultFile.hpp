@@ -12,7 +12,7 @@ template <class Write>
 std::string writeResult(const std::string& folder, const std::string& name, Write write) {
     reader::makeFolder(folder);
     std::string path = folder + "/" + name;
-    std::ofstream out(path);
+    std::ofstream out(path, std::ios::binary);
     if (out) {
         write(out);
         out.close();

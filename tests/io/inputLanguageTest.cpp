@@ -28,7 +28,7 @@ std::string listed(const entries& map) {
     std::string list;
     for (auto [key, value] : map) {
         std::replace(value.begin(), value.end(), '\n', '|');
-        list += "-> " + key + " [" + value + "]\n";
+        list.append("-> ").append(key).append(" [").append(value).append("]\n");
     }
     return list;
 }

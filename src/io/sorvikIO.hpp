@@ -27,6 +27,8 @@ extern const std::string notFoundStr;
 constexpr int maxNesting = 100;
 /// Entries that a map may reach while aliases are resolved; more are a fatal error.
 constexpr std::size_t maxMapEntries = 1'000'000;
+/// Characters that its keys and values may reach.
+constexpr std::size_t maxMapText = std::size_t(128) << 20;
 
 // ---- Tokeniser (sorvikIO_tokeniser.cpp) ----
 

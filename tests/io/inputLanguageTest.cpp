@@ -67,6 +67,9 @@ TEST(readInputStream, nestsAHundredBlocks) {
 TEST(inputMap, refusesAliasesThatFeedOnThemselves) {
     EXPECT_EXIT_SAYING(readWithAliases("body1.x = 2\nbody10 = { source = body1 }"), 1,
                        "The alias body10.source = body1 feeds on itself");
+    // Another alias, first in order, would copy it for ever.
+    EXPECT_EXIT_SAYING(readWithAliases("0b.source = a\nab b.source = a"), 1,
+                       "The alias ab b.source = a feeds on itself");
     EXPECT_EXIT_SAYING(readWithAliases("a.source = b\nb1.source = a\nb.x = 1"), 1,
                        "The alias a1.source = a feeds on itself");
 }

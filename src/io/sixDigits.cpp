@@ -1,5 +1,7 @@
 #include "io/sixDigits.hpp"
 
+#include "io/littleEndian.hpp"
+
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -132,13 +134,6 @@ constexpr std::array<std::uint64_t, 1000> makeLastTriples() {
 
 constexpr std::array<std::uint64_t, 1000> lastTriples = makeLastTriples();
 
-/// Stores a text of eight characters; one machine store where bytes lie in that order.
-inline void store(char* out, std::uint64_t text) {
-    for (unsigned i = 0; i < 8; ++i) {
-        out[i] = static_cast<char>(text >> (8 * i));
-    }
-}
-
 /// Writes six digits as `d` lays them out, without trailing zeros behind the point.
 inline char* layOut(char* out, std::uint32_t number, const decade& d) {
     const std::uint32_t high = number / 1000;
@@ -149,8 +144,8 @@ inline char* layOut(char* out, std::uint32_t number, const decade& d) {
         count = lastTriples[high] >> countShift;
     }
     std::memcpy(out, d.prefix, sizeof d.prefix);
-    store(out + d.prefixLength,
-          (digits & d.beforePoint) | d.point | (digits & ~d.beforePoint) << 8);
+    littleEndian::store64(out + d.prefixLength,
+                          (digits & d.beforePoint) | d.point | (digits & ~d.beforePoint) << 8);
     return out + d.lengths[count];
 }
 

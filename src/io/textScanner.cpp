@@ -1,6 +1,7 @@
 #include "io/textScanner.hpp"
 
 #include "io/classicText.hpp"
+#include "io/littleEndian.hpp"
 
 #include <algorithm>
 #include <charconv>
@@ -55,13 +56,9 @@ struct digitRun {
 /// of changing length is mostly mispredicted branches.
 digitRun readDigits(const char* p) {
     constexpr std::uint64_t bytes = 0x0101010101010101U;
-    std::uint64_t text = 0;
-    for (int i = 7; i >= 0; --i) {
-        text = text << 8 | static_cast<unsigned char>(p[i]);
-    }
     // By byte: 0 to 9 for a digit; for others the top bit is set in `stops`, of which the lowest
     // counts.
-    text ^= bytes * '0';
+    std::uint64_t text = littleEndian::load64(p) ^ bytes * '0';
     const std::uint64_t stops = ((text + bytes * (0x80 - 10)) | text) & (bytes * 0x80);
     const int length = stops == 0 ? 8 : __builtin_ctzll(stops) / 8;
     if (length == 0) {

@@ -1,5 +1,6 @@
 #include "mesh/bodyMesh.hpp"
 
+#include "io/littleEndian.hpp"
 #include "io/memory.hpp"
 #include "io/printer.hpp"
 #include "mesh/pointText.hpp"
@@ -42,24 +43,10 @@ constexpr int mostPanels = 499999;
 /// surface.
 constexpr std::size_t panelMemory = sizeof(triangle) + 9 * sizeof(double) + 16 + sizeof(void*);
 
-std::uint32_t loadWord(const char* bytes) {
-    std::uint32_t word = 0;
-    for (int i = 3; i >= 0; --i) {
-        word = word << 8 | static_cast<unsigned char>(bytes[i]);
-    }
-    return word;
-}
-
-void storeWord(char* bytes, std::uint32_t word) {
-    for (int i = 0; i < 4; ++i) {
-        bytes[i] = static_cast<char>(static_cast<unsigned char>(word >> (8 * i)));
-    }
-}
-
 triangle loadFacet(const char* record) {
     float values[floatsPerFacet];
     for (std::size_t i = 0; i < floatsPerFacet; ++i) {
-        const std::uint32_t word = loadWord(record + i * sizeof(float));
+        const std::uint32_t word = littleEndian::load32(record + i * sizeof(float));
         std::memcpy(values + i, &word, sizeof word);
     }
     return triangle(values);
@@ -69,7 +56,7 @@ char* storeVector(char* bytes, v3<float> const& v) {
     for (const float value : {v.x, v.y, v.z}) {
         std::uint32_t word = 0;
         std::memcpy(&word, &value, sizeof word);
-        storeWord(bytes, word);
+        littleEndian::store32(bytes, word);
         bytes += sizeof word;
     }
     return bytes;
@@ -223,7 +210,7 @@ bool bodyMesh::stl_read(std::string const& file) {
     std::ifstream in(file, std::ios::binary);
     char head[headerSize + countSize] = {};
     in.read(head, sizeof head);
-    const std::uint32_t count = loadWord(head + headerSize);
+    const std::uint32_t count = littleEndian::load32(head + headerSize);
     if (count > std::uint32_t(std::numeric_limits<int>::max()) ||
         !memory::canHold(count, panelMemory)) {
         printer::fatalError(file + " announces " + std::to_string(count) +
@@ -247,8 +234,8 @@ void bodyMesh::stl_print_ascii(std::string const& file, bool wetOnly) const {
 void bodyMesh::stl_print(std::string const& file, bool wetOnly) const {
     std::ofstream stream(file, std::ios::binary);
     char head[headerSize + countSize] = {};
-    storeWord(head + headerSize,
-              wetOnly ? static_cast<std::uint32_t>(wetFaces.size()) : std::uint32_t(nFaces));
+    littleEndian::store32(head + headerSize, wetOnly ? static_cast<std::uint32_t>(wetFaces.size())
+                                                     : std::uint32_t(nFaces));
     stream.write(head, sizeof head);
     facetWriter out(stream);
     forChosen(wetOnly, [&](triangle const& panel) { out.write(panel); });

@@ -1,11 +1,12 @@
 #include "io/sorvikIO.hpp"
 
+#include "io/classicText.hpp"
 #include "io/printer.hpp"
-#include "io/viewBuffer.hpp"
 
 #include <algorithm>
 #include <istream>
-#include <limits>
+#include <iterator>
+#include <string_view>
 
 // Text becomes entries line by line; a value that begins with a bracket or a quote is read as a
 // block across lines, and what follows the block on its last line is read as a line of its own.
@@ -23,81 +24,112 @@ const std::map<char, char>& bracketPairs() {
     return pairs;
 }
 
-/// A block whose text is being read: the stream that holds it and where its entry begins in there.
-struct openBlock {
-    std::istream& in;
-    std::streampos entry;
-    int depth;
-    const openBlock* parent;
-};
-
-/// Newlines of the stream before `end`.
-long newlinesBefore(std::istream& in, std::streampos end) {
-    in.clear();
-    in.seekg(0);
-    long count = 0;
-    for (std::streamoff left = end; left > 0 && in.good(); --left) {
-        count += in.get() == '\n' ? 1 : 0;
-    }
-    return count;
-}
-
-[[noreturn]] void failTooDeep(const openBlock& block) {
-    long line = 1;
-    for (const openBlock* b = &block; b != nullptr; b = b->parent) {
-        line += newlinesBefore(b->in, b->entry);
-    }
-    printer::fatalError("Line " + std::to_string(line) + " of the input opens block number " +
-                        std::to_string(block.depth) + " within blocks. At most " +
-                        std::to_string(sorvikIO::maxNesting) + " are expected.");
-}
-
 /// Whether a block holds entries. A drive path such as C:\ in a JSON string is no assignment.
 bool isNested(const std::string& block, char assign) {
     const std::size_t first = block.find(assign);
     return first != std::string::npos && first != block.find(":\\");
 }
 
-/// Reads the entry and stands the stream behind it; `entry` receives the position after `assign`.
-int readEntry(std::istream& in, std::string& key, std::string& value, char assign,
-              std::streampos& entry) {
-    std::string line;
-    while (in.good()) {
-        const std::streampos lineStart = in.tellg();
-        std::getline(in, line);
-        sorvikIO::stripFromComment(line);
-        const std::size_t split = line.find(assign);
-        if (split == std::string::npos) {
-            continue;
+/// Reads the entries of a text one after the other. What is found further on in a line is kept for
+/// the next entry, so that a line of many blocks is searched once and not once a block.
+class entryReader {
+public:
+    entryReader(std::string_view content, char assignDLM)
+        : text(content), in(content), assign(assignDLM) {}
+
+    /// As `sorvikIO::readNextEntry`.
+    int next(std::string& key, std::string& value) {
+        while (!isAtEnd) {
+            lineEnd = find('\n', lineEnd);
+            const std::size_t end = std::min(lineEnd, text.size());
+            percent = find('%', percent);
+            hash = find('#', hash);
+            const std::size_t comment = percent < end ? percent : std::min(hash, end);
+            split = find(assign, split);
+            if (split >= comment) {
+                moveTo(lineEnd);
+                continue;
+            }
+            key = text.substr(position, split - position);
+            sorvikIO::strip(key);
+            sorvikIO::stripFromUnwanted(key);
+            const std::string_view rest = text.substr(split + 1, comment - split - 1);
+            const std::size_t first = rest.find_first_not_of(" \t");
+            if (first == std::string_view::npos || bracketPairs().count(rest[first]) == 0) {
+                value = rest;
+                sorvikIO::strip(value);
+                sorvikIO::stripFromUnwanted(value);
+                moveTo(lineEnd);
+                return 1;
+            }
+            in.clear();
+            in.seekg(static_cast<std::streamoff>(split + 1));
+            value = sorvikIO::extractBlock(in);
+            isAtEnd = !in.good();
+            position = isAtEnd ? text.size() : static_cast<std::size_t>(in.tellg());
+            return isNested(value, assign) ? 2 : 1;
         }
-        key = line.substr(0, split);
-        value = line.substr(split + 1);
-        sorvikIO::strip(key);
-        sorvikIO::strip(value);
-        sorvikIO::stripFromUnwanted(key);
-        entry = lineStart + static_cast<std::streamoff>(split + 1);
-        if (value.empty() || bracketPairs().count(value.front()) == 0) {
-            sorvikIO::stripFromUnwanted(value);
-            return 1;
-        }
-        in.seekg(entry);
-        value = sorvikIO::extractBlock(in);
-        return isNested(value, assign) ? 2 : 1;
+        return 0;
     }
-    return 0;
+
+    /// Where the next entry is looked for.
+    std::size_t place() const { return position; }
+    bool ended() const { return isAtEnd; }
+    /// Newlines of the text before the value of the last entry.
+    std::ptrdiff_t newlinesBefore() const {
+        return std::count(text.data(), text.data() + split, '\n');
+    }
+
+private:
+    /// The first `c` at or behind the position, where `known` is the first behind an earlier one.
+    std::size_t find(char c, std::size_t known) const {
+        return known != unknown && known >= position ? known : text.find(c, position);
+    }
+
+    /// Stands behind the line end, or at the end of a text that has none left.
+    void moveTo(std::size_t newline) {
+        isAtEnd = newline == std::string_view::npos;
+        position = isAtEnd ? text.size() : newline + 1;
+    }
+
+    static constexpr std::size_t unknown = std::string_view::npos - 1;
+
+    std::string_view text;
+    classicText in;
+    char assign;
+    std::size_t position = 0;
+    std::size_t split = unknown;
+    std::size_t lineEnd = unknown;
+    std::size_t percent = unknown;
+    std::size_t hash = unknown;
+    bool isAtEnd = false;
+};
+
+/// A block whose entries are being read.
+struct openBlock {
+    const entryReader& entries;
+    int depth;
+    const openBlock* parent;
+};
+
+[[noreturn]] void failTooDeep(const openBlock& block) {
+    std::ptrdiff_t line = 1;
+    for (const openBlock* b = &block; b != nullptr; b = b->parent) {
+        line += b->entries.newlinesBefore();
+    }
+    printer::fatalError("Line " + std::to_string(line) + " of the input opens block number " +
+                        std::to_string(block.depth) + " within blocks. At most " +
+                        std::to_string(sorvikIO::maxNesting) + " are expected.");
 }
 
-std::map<std::string, std::string> readBlock(std::istream& in, char assign, char member,
+std::map<std::string, std::string> readBlock(std::string_view text, char assign, char member,
                                              const openBlock* parent) {
     std::map<std::string, std::string> map;
     std::string key;
     std::string value;
-    openBlock block{in, 0, parent == nullptr ? 1 : parent->depth + 1, parent};
-    while (in.good()) {
-        const int kind = readEntry(in, key, value, assign, block.entry);
-        if (kind == 0) {
-            break;
-        }
+    entryReader entries(text, assign);
+    const openBlock block{entries, parent == nullptr ? 1 : parent->depth + 1, parent};
+    while (const int kind = entries.next(key, value)) {
         if (value.empty() || map.count(key) != 0) {
             continue;
         }
@@ -109,26 +141,43 @@ std::map<std::string, std::string> readBlock(std::istream& in, char assign, char
         if (block.depth > sorvikIO::maxNesting) {
             failTooDeep(block);
         }
-        viewBuffer buffer(value);
-        std::istream text(&buffer);
         const std::string prefix = key + member;
-        for (auto& [subKey, subValue] : readBlock(text, assign, member, &block)) {
+        for (auto& [subKey, subValue] : readBlock(value, assign, member, &block)) {
             map.emplace(prefix + subKey, std::move(subValue));
         }
     }
     return map;
 }
 
+/// The rest of the stream.
+std::string restOf(std::istream& in) {
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
 } // namespace
 
 std::map<std::string, std::string> sorvikIO::readInputStream(std::istream& in, char assign,
                                                              char member) {
-    return readBlock(in, assign, member, nullptr);
+    if (!in.good()) {
+        return {};
+    }
+    const std::string text = restOf(in);
+    in.setstate(std::ios::eofbit);
+    return readBlock(text, assign, member, nullptr);
 }
 
 int sorvikIO::readNextEntry(std::istream& in, std::string& key, std::string& value, char assign) {
-    std::streampos entry;
-    return readEntry(in, key, value, assign, entry);
+    if (!in.good()) {
+        return 0;
+    }
+    const std::streampos start = in.tellg();
+    const std::string text = restOf(in);
+    entryReader entries(text, assign);
+    const int kind = entries.next(key, value);
+    in.clear();
+    in.seekg(start + static_cast<std::streamoff>(entries.place()));
+    in.setstate(entries.ended() ? std::ios::eofbit : std::ios::goodbit);
+    return kind;
 }
 
 std::string sorvikIO::extractBlock(std::istream& in) {

@@ -1,5 +1,6 @@
 #include "io/inputMap.hpp"
 
+#include "io/aliasResolver.hpp"
 #include "io/classicText.hpp"
 #include "io/printer.hpp"
 #include "io/reader.hpp"
@@ -41,9 +42,10 @@ inputMap::inputMap(std::string name) : fileName(std::move(name)) {
 }
 
 void inputMap::assignSources() {
+    aliasResolver aliases(map);
     int changes = 0;
     for (int pass = 0; pass < maxPasses; ++pass) {
-        if (!sorvikIO::assignAlternatives(map)) {
+        if (!aliases.pass()) {
             if (changes == reportedPasses) {
                 std::cout << "Warning: 500 iterations of assignAlternatives in sorvikIO. "
                              "Something is off..."

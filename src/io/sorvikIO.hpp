@@ -3,6 +3,7 @@
 #include <iosfwd>
 #include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// The suite's input language: text to a flat map of dotted keys, typed values, numeric tables, and
@@ -27,8 +28,9 @@ extern const std::string notFoundStr;
 constexpr int maxNesting = 100;
 /// Entries that a map may reach while aliases are resolved; more are a fatal error.
 constexpr std::size_t maxMapEntries = 1'000'000;
-/// Characters that its keys and values may reach.
-constexpr std::size_t maxMapText = std::size_t(128) << 20;
+/// Characters that aliases may add to a map, and as many that blocks may add to its keys; more are
+/// a fatal error.
+constexpr std::size_t maxAddedText = 64 << 20;
 
 // ---- Tokeniser (sorvikIO_tokeniser.cpp) ----
 
@@ -53,6 +55,8 @@ void strip(std::string& s);
 /// Turns brackets, quotes, commas, semicolons and tabs into blanks, removes '%' and '//' comments
 /// up to the end of their line, and strips.
 void stripFromUnwanted(std::string& s);
+/// `text`, or its beginning and "..." where it is too long for a message.
+std::string excerpt(std::string_view text);
 /// Whether `c` is one of the characters that `stripFromUnwanted` turns into blanks.
 bool checkUnwanted(char c);
 

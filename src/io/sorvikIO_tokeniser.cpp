@@ -122,32 +122,55 @@ struct openBlock {
                         std::to_string(sorvikIO::maxNesting) + " are expected.");
 }
 
-std::map<std::string, std::string> readBlock(std::string_view text, char assign, char member,
-                                             const openBlock* parent) {
-    std::map<std::string, std::string> map;
-    std::string key;
-    std::string value;
-    entryReader entries(text, assign);
-    const openBlock block{entries, parent == nullptr ? 1 : parent->depth + 1, parent};
-    while (const int kind = entries.next(key, value)) {
-        if (value.empty() || map.count(key) != 0) {
-            continue;
+/// Reads a text and the blocks in it.
+class blockReader {
+public:
+    blockReader(char assignDLM, char memberDLM) : assign(assignDLM), member(memberDLM) {}
+
+    std::map<std::string, std::string> read(std::string_view text, const openBlock* parent) {
+        std::map<std::string, std::string> map;
+        std::string key;
+        std::string value;
+        entryReader entries(text, assign);
+        const openBlock block{entries, parent == nullptr ? 1 : parent->depth + 1, parent};
+        while (const int kind = entries.next(key, value)) {
+            if (value.empty() || map.count(key) != 0) {
+                continue;
+            }
+            if (kind == 1) {
+                sorvikIO::stripFromUnwanted(value);
+                map.emplace(key, value);
+                continue;
+            }
+            if (block.depth > sorvikIO::maxNesting) {
+                failTooDeep(block);
+            }
+            addBlock(map, key, read(value, &block));
         }
-        if (kind == 1) {
-            sorvikIO::stripFromUnwanted(value);
-            map.emplace(key, value);
-            continue;
-        }
-        if (block.depth > sorvikIO::maxNesting) {
-            failTooDeep(block);
-        }
+        return map;
+    }
+
+private:
+    void addBlock(std::map<std::string, std::string>& map, const std::string& key,
+                  std::map<std::string, std::string>&& entries) {
         const std::string prefix = key + member;
-        for (auto& [subKey, subValue] : readBlock(value, assign, member, &block)) {
-            map.emplace(prefix + subKey, std::move(subValue));
+        auto next = map.lower_bound(prefix);
+        for (auto& [subKey, subValue] : entries) {
+            const std::size_t before = map.size();
+            next = std::next(map.emplace_hint(next, prefix + subKey, std::move(subValue)));
+            addedText += map.size() > before ? prefix.size() : 0;
+            if (addedText > sorvikIO::maxAddedText) {
+                printer::fatalError("The names of blocks, such as " + sorvikIO::excerpt(key) +
+                                    ", add more than " + std::to_string(sorvikIO::maxAddedText) +
+                                    " characters to the keys of the input.");
+            }
         }
     }
-    return map;
-}
+
+    char assign;
+    char member;
+    std::size_t addedText = 0;
+};
 
 /// The rest of the stream.
 std::string restOf(std::istream& in) {
@@ -163,7 +186,7 @@ std::map<std::string, std::string> sorvikIO::readInputStream(std::istream& in, c
     }
     const std::string text = restOf(in);
     in.setstate(std::ios::eofbit);
-    return readBlock(text, assign, member, nullptr);
+    return blockReader(assign, member).read(text, nullptr);
 }
 
 int sorvikIO::readNextEntry(std::istream& in, std::string& key, std::string& value, char assign) {
@@ -234,6 +257,11 @@ void sorvikIO::stripFromUnwanted(std::string& s) {
     }
     strip(kept);
     s = std::move(kept);
+}
+
+std::string sorvikIO::excerpt(std::string_view text) {
+    constexpr std::size_t longest = 60;
+    return std::string(text.substr(0, longest)) + (text.size() > longest ? "..." : "");
 }
 
 bool sorvikIO::checkUnwanted(char c) {

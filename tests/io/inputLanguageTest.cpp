@@ -64,6 +64,14 @@ TEST(readInputStream, nestsAHundredBlocks) {
               (entries{{"a", "1"}}));
 }
 
+TEST(readInputStream, limitsWhatBlocksAddToKeys) {
+    std::string text = std::string(500'000, 'k') + " = {";
+    for (int i = 0; i < 200; ++i) {
+        text += "\na" + std::to_string(i) + " = 1";
+    }
+    EXPECT_EXIT_SAYING(read(text), 1, "kkkk..., add more than 67108864 characters");
+}
+
 TEST(inputMap, refusesAliasesThatFeedOnThemselves) {
     EXPECT_EXIT_SAYING(readWithAliases("body1.x = 2\nbody10 = { source = body1 }"), 1,
                        "The alias body10.source = body1 feeds on itself");
@@ -72,6 +80,9 @@ TEST(inputMap, refusesAliasesThatFeedOnThemselves) {
                        "The alias ab b.source = a feeds on itself");
     EXPECT_EXIT_SAYING(readWithAliases("a.source = b\nb1.source = a\nb.x = 1"), 1,
                        "The alias a1.source = a feeds on itself");
+    EXPECT_EXIT_SAYING(
+        readWithAliases(".a.source = .source\n.source = ..\n.sourceb.x.source = .source"), 1,
+        " = .source feeds on itself");
 }
 
 /// A chain of aliases of which every pass resolves one link: 0000 takes from 0001, and so on.

@@ -1,0 +1,137 @@
+#include "io/aliasResolver.hpp"
+
+#include "io/printer.hpp"
+#include "io/sorvikIO.hpp"
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+constexpr std::string_view sourceWord = "source";
+
+bool startsWith(std::string_view text, std::string_view head) {
+    return text.substr(0, head.size()) == head;
+}
+
+bool isAlias(std::string_view key) {
+    return key.size() > sourceWord.size() &&
+           key.substr(key.size() - sourceWord.size()) == sourceWord;
+}
+
+std::size_t commonLength(std::string_view a, std::string_view b) {
+    const auto length = static_cast<std::ptrdiff_t>(std::min(a.size(), b.size()));
+    return static_cast<std::size_t>(std::mismatch(a.begin(), a.begin() + length, b.begin()).first -
+                                    a.begin());
+}
+
+[[noreturn]] void fail(std::string_view prefix, std::string_view source, std::string_view what) {
+    printer::fatalError("The alias " + sorvikIO::excerpt(prefix) + sorvikIO::memberDLM +
+                        std::string(sourceWord) + " = " + sorvikIO::excerpt(source) +
+                        std::string(what));
+}
+
+/// An alias that begins with its own source gives itself new entries for ever.
+void checkAlias(std::string_view prefix, std::string_view source) {
+    if (prefix.size() > source.size() && startsWith(prefix, source)) {
+        fail(prefix, source,
+             " feeds on itself: its own name begins with the name of its source. Expected a source "
+             "whose name is not the beginning of the alias.");
+    }
+}
+
+} // namespace
+
+aliasResolver::aliasResolver(entries& target) : map(target) {
+    for (const auto& e : map) {
+        noteIfAlias(&e);
+    }
+}
+
+bool aliasResolver::pass() {
+    bool changed = false;
+    for (auto turn = waiting.begin(); turn != waiting.end();) {
+        alias& a = *turn->second;
+        changed |= takeTurn(a);
+        turn = a.news.empty() ? waiting.erase(turn) : std::next(turn);
+    }
+    return changed;
+}
+
+bool aliasResolver::resolve(std::string_view prefix, std::string_view source) {
+    checkAlias(prefix, source);
+    return takeTurn(aliases.emplace_back(alias{{}, prefix, source}));
+}
+
+/// Checks new aliases at once: before its turn another one could copy it without end.
+void aliasResolver::noteIfAlias(entry e) {
+    const std::string_view key = e->first;
+    if (isAlias(key)) {
+        const std::string_view prefix = key.substr(0, key.size() - sourceWord.size() - 1);
+        checkAlias(prefix, e->second);
+        waiting.emplace(key, &aliases.emplace_back(alias{key, prefix, e->second}));
+    }
+}
+
+/// Tells the aliases whose source is the beginning of the key: from the longest such source on to
+/// shorter ones.
+void aliasResolver::announce(entry e) {
+    std::string_view head = e->first;
+    for (auto after = bySource.upper_bound(head); after != bySource.begin();
+         after = bySource.upper_bound(head)) {
+        const auto& [source, found] = *std::prev(after);
+        const std::size_t common = commonLength(source, head);
+        head = head.substr(0, common);
+        if (common < source.size()) {
+            continue;
+        }
+        for (alias* a : found) {
+            a->news.insert(e);
+            waiting.emplace(a->key, a);
+        }
+        if (head.empty()) {
+            return;
+        }
+        head.remove_suffix(1);
+    }
+}
+
+bool aliasResolver::takeTurn(alias& a) {
+    if (!a.hadTurn) {
+        a.hadTurn = true;
+        bySource[a.source].push_back(&a);
+        for (auto it = map.lower_bound(std::string(a.source));
+             it != map.end() && startsWith(it->first, a.source); ++it) {
+            a.news.insert(a.news.end(), &*it);
+        }
+    }
+    // What is added behind the current entry belongs to this turn, what is added before it to the
+    // next.
+    bool changed = false;
+    for (auto e = a.news.begin(); e != a.news.end(); e = a.news.erase(e)) {
+        changed |= add(a, *e);
+    }
+    return changed;
+}
+
+bool aliasResolver::add(alias const& a, entry e) {
+    std::string key(a.prefix);
+    key.append(e->first, a.source.size());
+    const auto [added, isNew] = map.try_emplace(std::move(key), e->second);
+    if (!isNew) {
+        return false;
+    }
+    addedText += added->first.size() + added->second.size();
+    if (map.size() > sorvikIO::maxMapEntries) {
+        fail(a.prefix, a.source,
+             " makes more than " + std::to_string(sorvikIO::maxMapEntries) + " entries.");
+    }
+    if (addedText > sorvikIO::maxAddedText) {
+        fail(a.prefix, a.source,
+             " makes entries of more than " + std::to_string(sorvikIO::maxAddedText) +
+                 " characters in all.");
+    }
+    noteIfAlias(&*added);
+    announce(&*added);
+    return true;
+}

@@ -31,6 +31,8 @@ constexpr std::size_t maxMapEntries = 1'000'000;
 /// Characters that aliases may add to a map, and as many that blocks may add to its keys; more are
 /// a fatal error.
 constexpr std::size_t maxAddedText = 64 << 20;
+/// Characters of a JSON text; more are a fatal error.
+constexpr std::size_t maxJsonText = 128 << 20;
 
 // ---- Tokeniser (sorvikIO_tokeniser.cpp) ----
 
@@ -119,9 +121,9 @@ std::string alternativeKey(std::istream& in, const std::string& key);
 // ---- JSON export (sorvikIO_json.cpp) ----
 
 /// The map as one JSON object: plain members in key order, then nested objects in name order.
-/// `indent` is the depth of the object. A key of more than `maxNesting` components is a fatal
-/// error.
-std::string toJSON(std::map<std::string, std::string> map, int indent);
+/// `indent` is the depth of the object. A key of more than `maxNesting` components, or a text of
+/// more than `maxJsonText` characters, is a fatal error.
+std::string toJSON(const std::map<std::string, std::string>& map, int indent);
 /// One member line. A `value` that begins with '{' is a finished object; an empty one becomes {}.
 std::string addJSONLine(const std::string& key, std::string value, int indent);
 /// The JSON form of a value text: a path as one string, else words as strings and numbers bare, a

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <iterator>
 
 // Dotted keys become nested objects. Within every object all plain members come first, in key
 // order, and all nested objects after them, in name order.
@@ -46,45 +47,68 @@ std::string memberHead(const std::string& key, int indent) {
 void checkDepth(const std::string& key) {
     const auto dots = std::count(key.begin(), key.end(), sorvikIO::memberDLM);
     if (dots >= sorvikIO::maxNesting) {
-        printer::fatalError("The key " + key.substr(0, 60) + "... has " + std::to_string(dots + 1) +
-                            " components. At most " + std::to_string(sorvikIO::maxNesting) +
-                            " are expected.");
+        printer::fatalError("The key " + sorvikIO::excerpt(key) + " has " +
+                            std::to_string(dots + 1) + " components. At most " +
+                            std::to_string(sorvikIO::maxNesting) + " are expected.");
     }
 }
 
-/// Appends the object; nested ones are written in place, so that no text is copied level by level.
-void appendObject(std::string& text, std::map<std::string, std::string>&& map, int indent) {
-    // By name: the entries of a nested object, with the name and the "." cut off their keys.
-    std::map<std::string, std::map<std::string, std::string>> groups;
+using position = std::map<std::string, std::string>::const_iterator;
+
+/// A nested object: the entries whose keys go on with its name and a ".". They are neighbours.
+struct group {
+    std::string_view name;
+    position first;
+    position last;
+};
+
+/// Appends the object of a range of entries, whose keys begin alike up to `prefix`; nested ones are
+/// written in place, so that nothing is copied level by level.
+void appendObject(std::string& text, position first, position last, std::size_t prefix,
+                  int indent) {
+    std::vector<group> groups;
     const std::size_t start = text.size();
     text += "{\n";
-    for (auto& [key, value] : map) {
+    for (position entry = first; entry != last; ++entry) {
+        const std::string_view key = std::string_view(entry->first).substr(prefix);
         const std::size_t dot = key.find(sorvikIO::memberDLM);
-        if (dot == std::string::npos) {
-            text += sorvikIO::addJSONLine(key, std::move(value), indent + 1);
-        } else {
-            groups[key.substr(0, dot)].emplace(key.substr(dot + 1), std::move(value));
+        if (dot == std::string_view::npos) {
+            text += sorvikIO::addJSONLine(std::string(key), entry->second, indent + 1);
+            continue;
         }
+        const std::string_view name = key.substr(0, dot);
+        if (groups.empty() || groups.back().name != name) {
+            groups.push_back({name, entry, entry});
+        }
+        groups.back().last = std::next(entry);
     }
-    for (auto& [name, group] : groups) {
-        text += memberHead(name, indent + 1);
-        appendObject(text, std::move(group), indent + 1);
+    // Names may come in another order than the keys that they begin: "a-b.x" precedes "a.x".
+    std::sort(groups.begin(), groups.end(),
+              [](const group& a, const group& b) { return a.name < b.name; });
+    for (const group& g : groups) {
+        text += memberHead(std::string(g.name), indent + 1);
+        appendObject(text, g.first, g.last, prefix + g.name.size() + 1, indent + 1);
         text += ",\n";
     }
     // The last comma goes; of an empty object the opening brace goes instead.
     text.erase(std::max(start, text.size() - 2), 1);
     text.append(static_cast<std::size_t>(indent), '\t');
     text += '}';
+    if (text.size() > sorvikIO::maxJsonText) {
+        printer::fatalError("The JSON text of the input has more than " +
+                            std::to_string(sorvikIO::maxJsonText) +
+                            " characters. Expected fewer or shorter keys.");
+    }
 }
 
 } // namespace
 
-std::string sorvikIO::toJSON(std::map<std::string, std::string> map, int indent) {
+std::string sorvikIO::toJSON(const std::map<std::string, std::string>& map, int indent) {
     for (const auto& [key, value] : map) {
         checkDepth(key);
     }
     std::string text;
-    appendObject(text, std::move(map), indent);
+    appendObject(text, map.begin(), map.end(), 0, indent);
     return text;
 }
 

@@ -21,9 +21,13 @@ TEST(toJSON, putsMembersBeforeObjects) {
         "\t\"name\" : [\"my\" , \"case\"],\n\t\"environment\" : {\n\t\t\"waterDepth\" : 50,\n"
         "\t\t\"wave\" : {\n\t\t\t\"height\" : 2.0,\n\t\t\t\"type\" : \"regular\"\n\t\t}\n\t}\n}");
     EXPECT_EQ(sorvikIO::toJSON({{"a.b", ""}}, 1), "{\n\t\t\"a\" : {\n\t\t\t\"b\" : {}\n\t\t}\n\t}");
+    EXPECT_EQ(sorvikIO::toJSON({{"a-b.x", "1"}, {"a.x", "2"}}, 0),
+              "{\n\t\"a\" : {\n\t\t\"x\" : 2\n\t},\n\t\"a-b\" : {\n\t\t\"x\" : 1\n\t}\n}");
     EXPECT_EQ(sorvikIO::toJSON({}, 0), "\n}");
     const std::string deep = std::string(300'000, '.') + "a";
     EXPECT_EXIT_SAYING(sorvikIO::toJSON({{deep, "1"}}, 0), 1, "has 300001 components");
+    const std::string wide(sorvikIO::maxJsonText, 'a');
+    EXPECT_EXIT_SAYING(sorvikIO::toJSON({{wide, "1"}}, 0), 1, "more than 134217728 characters");
 }
 
 TEST(frmtJSONvalue, quotesWordsAndPaths) {

@@ -2,6 +2,7 @@
 #include "app/inputFile.hpp"
 #include "app/jsonFormat.hpp"
 #include "app/meshConvert.hpp"
+#include "app/processGuards.hpp"
 #include "io/reader.hpp"
 #include "nemoh/setNemohCase.hpp"
 #include "waves/waveElevation.hpp"
@@ -10,6 +11,9 @@
 #include <string>
 
 namespace {
+
+/// Made first of all static objects: the registry of wave models allocates.
+[[gnu::init_priority(101)]] const processGuards guards;
 
 bool isAsked(const char* flag, int argc, const char** argv) {
     int position = argc;

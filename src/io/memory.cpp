@@ -1,9 +1,8 @@
 #include "io/memory.hpp"
 
 #include <cstdint>
+#include <cstdlib>
 #include <limits>
-#include <memory>
-#include <new>
 
 #include <unistd.h>
 #ifdef __linux__
@@ -22,7 +21,10 @@ bool memory::canHold(std::size_t count, std::size_t bytes) {
         total / static_cast<std::size_t>(pageSize) >= static_cast<std::size_t>(pages)) {
         return false;
     }
-    const std::unique_ptr<char[]> trial(new (std::nothrow) char[total]);
+    // Not through operator new, which may be set to end the process. The pointer is volatile for
+    // the call not to be optimised away.
+    void* volatile trial = std::malloc(total);
+    std::free(trial);
     return trial != nullptr;
 }
 

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdlib>
 #include <iostream>
+#include <string_view>
 
 int printer::m_dblSize = 8;
 
@@ -14,6 +15,13 @@ constexpr int barLength = 50;
 [[noreturn]] void terminate() {
     std::cout << "* * * Terminating sorvik simulation * * * \n\n" << std::endl;
     std::exit(1);
+}
+
+[[noreturn]] void terminateWith(std::string_view message) {
+    std::cout << "* * * * * * * * * * * A FATAL ERROR HAS OCCURED * * * * * * * * * * *\n\n\t"
+              << message << "\n\n"
+              << std::endl;
+    terminate();
 }
 
 void printHeader(const std::string& title) {
@@ -28,10 +36,11 @@ void printFooter(const std::string& title) {
 } // namespace
 
 void printer::fatalError(const std::string& message) {
-    std::cout << "* * * * * * * * * * * A FATAL ERROR HAS OCCURED * * * * * * * * * * *\n\n\t"
-              << message << "\n\n"
-              << std::endl;
-    terminate();
+    terminateWith(message);
+}
+
+void printer::fatalError(const char* message) {
+    terminateWith(message);
 }
 
 void printer::fatalNotFound(const std::string& key, const std::string& format) {

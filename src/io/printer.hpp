@@ -15,6 +15,8 @@ public:
 
     /// Prints `message` in the fatal-error frame and ends the process with status 1.
     [[noreturn]] static void fatalError(const std::string& message);
+    /// The same, with no need of memory.
+    [[noreturn]] static void fatalError(const char* message);
 
     /// Reports that `key` has no value in the input file and ends the process with status 1.
     /// A `format` that is not empty is shown as the expected input.

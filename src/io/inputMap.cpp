@@ -4,12 +4,13 @@
 #include "io/classicText.hpp"
 #include "io/printer.hpp"
 #include "io/reader.hpp"
+#include "io/rewrite.hpp"
 #include "io/sorvikIO.hpp"
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <iterator>
 
 namespace {
 
@@ -93,9 +94,7 @@ void inputMap::print(std::string outName) const {
         outName = reader::removeExtension(fileName) + ".json";
     }
     const std::string text = sorvikIO::toJSON(map, 0);
-    std::ofstream out(outName, std::ios::binary);
-    out << text << std::flush;
-    if (!out) {
+    if (!rewrite(fileName, outName, [&](std::ostream& out) { out << text; })) {
         printer::fatalError("Cannot write the JSON file " + outName +
                             ". Expected a file in an existing folder that can be written to, and "
                             "room on the disk.");

@@ -89,7 +89,8 @@ public:
     /// unsupported extension ends the process with status 1.
     bool read(std::string const& file);
     /// Writes the mesh, or its wetted surface, in the format of the name; false where there is
-    /// none. Nemoh files always hold the wetted surface.
+    /// none. Nemoh files always hold the wetted surface. The file that the mesh came from is kept
+    /// unless it can be replaced whole.
     bool write(std::string const& file, bool wetOnly);
 
     // ---- STL (bodyMesh_stl.cpp) ----
@@ -104,6 +105,7 @@ public:
     bool stl_read(std::string const& file);
     void stl_print_ascii(std::string const& file, bool wetOnly) const;
     void stl_print(std::string const& file, bool wetOnly) const;
+    void stl_write(std::ostream& stream, bool wetOnly) const;
 
     // ---- WAMIT GDF (bodyMesh_gdf.cpp) ----
 
@@ -111,11 +113,13 @@ public:
     /// records than it announces.
     bool gdf_read(std::string const& file);
     void gdf_print(std::string const& file, bool wetOnly, double ULEN, double GRAV) const;
+    void gdf_write(std::ostream& stream, bool wetOnly, double ULEN, double GRAV) const;
 
     // ---- Nemoh mesh (bodyMesh_nemoh.cpp) ----
 
     /// Adds the numbers of node and panel lines to the counters and returns the symmetry flag.
     static int nemoh_readMeshInfo(std::string const& file, int& nNodes, int& nPanels);
+    static int nemoh_countMesh(std::istream& stream, int& nNodes, int& nPanels);
     /// Appends the panels of a file, mirrors them where it says so, and returns `nFaces`. The line
     /// that ends the panels comes in as one more, of zero area at (0, 0, 0).
     int nemoh_read(std::string const& file);

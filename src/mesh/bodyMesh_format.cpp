@@ -1,5 +1,7 @@
 #include "mesh/bodyMesh.hpp"
 
+#include "io/rewrite.hpp"
+
 #include <cstdlib>
 #include <iostream>
 #include <map>
@@ -38,9 +40,14 @@ bool bodyMesh::write(std::string const& file, bool wetOnly) {
     constexpr double lengthScale = 1.0;
     constexpr double gravity = 9.81;
     switch (chooseFrmt(file)) {
-    case stl: stl_print(file, wetOnly); return true;
-    case gdf: gdf_print(file, wetOnly, lengthScale, gravity); return true;
-    case nemoh: nemoh_print(file, true); return true;
+    case stl:
+        rewrite(meshFile, file, [&](std::ostream& out) { stl_write(out, wetOnly); });
+        return true;
+    case gdf:
+        rewrite(meshFile, file,
+                [&](std::ostream& out) { gdf_write(out, wetOnly, lengthScale, gravity); });
+        return true;
+    case nemoh: rewrite(meshFile, file, [&](std::ostream& out) { nemoh_write(out); }); return true;
     default:
         std::cout << "Warning: Output format not supported. Please choose among: .gdf, .stl and "
                      ".dat formats"

@@ -81,6 +81,10 @@ bool bodyMesh::gdf_read(std::string const& file) {
 
 void bodyMesh::gdf_print(std::string const& file, bool wetOnly, double ULEN, double GRAV) const {
     std::ofstream stream(file, std::ios::binary);
+    gdf_write(stream, wetOnly, ULEN, GRAV);
+}
+
+void bodyMesh::gdf_write(std::ostream& stream, bool wetOnly, double ULEN, double GRAV) const {
     textWriter out(stream);
     out << " WAMIT FILE FORMAT FROM TRIANGULAR STL-STYLE MESH \n";
     out << ULEN << ' ' << GRAV << "\t ULEN GRAV\n";

@@ -92,6 +92,10 @@ void readPanels(textScanner& in, nodeList const& nodes, std::vector<triangle>& f
 
 int bodyMesh::nemoh_readMeshInfo(std::string const& file, int& nNodes, int& nPanels) {
     std::ifstream stream(file, std::ios::binary);
+    return nemoh_countMesh(stream, nNodes, nPanels);
+}
+
+int bodyMesh::nemoh_countMesh(std::istream& stream, int& nNodes, int& nPanels) {
     textScanner in(stream);
     int number = 0;
     const int symmetry = readHeader(in, number);

@@ -233,6 +233,10 @@ void bodyMesh::stl_print_ascii(std::string const& file, bool wetOnly) const {
 
 void bodyMesh::stl_print(std::string const& file, bool wetOnly) const {
     std::ofstream stream(file, std::ios::binary);
+    stl_write(stream, wetOnly);
+}
+
+void bodyMesh::stl_write(std::ostream& stream, bool wetOnly) const {
     char head[headerSize + countSize] = {};
     littleEndian::store32(head + headerSize, wetOnly ? static_cast<std::uint32_t>(wetFaces.size())
                                                      : std::uint32_t(nFaces));

@@ -61,8 +61,8 @@ public:
     /// `duration` [s].
     void addPostProc(double step, double duration);
 
-    /// Whether all that was written so far has reached `Nemoh.cal`.
-    bool isWritten() const { return cal.good(); }
+    /// Closes `Nemoh.cal`; whether all that was written has reached it.
+    bool finish();
 
     // ---- Reading the case back (nemohIO_case.cpp) ----
 

@@ -158,3 +158,8 @@ void nemohIO::addPostProc(double step, double duration) {
         << "----------\n"
         << std::flush;
 }
+
+bool nemohIO::finish() {
+    cal.close();
+    return cal.good();
+}

@@ -116,19 +116,19 @@ std::optional<projectMesh> placeMesh(const bodySettings& settings, const std::st
     return wetted;
 }
 
-bool copyFile(const std::string& source, const std::string& target) {
+/// Copies the file `source`, which is open as `in`.
+bool copyFile(std::istream& in, const std::string& source, const std::string& target) {
     std::error_code ignored;
     if (std::filesystem::equivalent(source, target, ignored)) {
         return true; // Opening it for writing would empty it.
     }
-    std::ifstream in(source, std::ios::binary);
     std::ofstream out(target, std::ios::binary);
     // Inserting the buffer of an empty file counts as a failure.
     if (in.peek() != std::ifstream::traits_type::eof()) {
         out << in.rdbuf();
     }
     out.close();
-    return out.good();
+    return out.good() && !in.bad();
 }
 
 /// Copies the mesh, which is a Nemoh mesh already, into the project.
@@ -139,16 +139,22 @@ std::optional<projectMesh> keepMesh(const bodySettings& settings, const std::str
     projectMesh kept;
     kept.name = sorvikIO::fileNameFromPath(settings.meshName);
     std::cout << "mesh only name is: " << kept.name << std::endl;
-    if (!reader::fileExist(settings.meshName, false)) {
+    std::ifstream in(settings.meshName, std::ios::binary);
+    if (!in.is_open() || !reader::fileExist(settings.meshName, false)) {
         printFatal("Cannot find meshfile " + settings.meshName);
         return std::nullopt;
     }
     const std::string target = folder + "/" + kept.name;
-    if (!copyFile(settings.meshName, target)) {
+    if (!copyFile(in, settings.meshName, target)) {
         printFatal("Cannot write meshfile " + target);
         return std::nullopt;
     }
-    bodyMesh::nemoh_readMeshInfo(target, kept.points, kept.panels);
+    std::ifstream copy(target, std::ios::binary);
+    bodyMesh::nemoh_countMesh(copy, kept.points, kept.panels);
+    if (!copy.is_open() || copy.bad()) {
+        printFatal("Cannot read meshfile " + target);
+        return std::nullopt;
+    }
     return kept;
 }
 
@@ -199,7 +205,7 @@ int setNemohCase(inputMap const& inputs) {
     project.addBody(mesh->name, mesh->points, mesh->panels, {1, 2, 3, 4, 5, 6}, settings.position,
                     {});
     writeLoadCases(inputs, project);
-    if (!project.isWritten()) {
+    if (!project.finish()) {
         printFatal("Cannot write " + folder + "/Nemoh.cal");
         return -1;
     }

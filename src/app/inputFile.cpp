@@ -1,13 +1,13 @@
 #include "app/inputFile.hpp"
 
-#include "io/reader.hpp"
-
 #include <cstdlib>
 #include <iostream>
 
-void requireInputFile(const std::string& name) {
-    if (!reader::fileExist(name, false)) {
+inputMap readInputFile(const std::string& name) {
+    inputMap inputs;
+    if (!inputs.readFile(name)) {
         std::cout << "Cannot find input file " << name << std::endl;
         std::exit(-1);
     }
+    return inputs;
 }

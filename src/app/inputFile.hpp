@@ -1,6 +1,8 @@
 #pragma once
 
+#include "io/inputMap.hpp"
+
 #include <string>
 
-/// Returns if the input file can be opened; otherwise says so and ends the process with status -1.
-void requireInputFile(const std::string& name);
+/// The entries of the input file. One that cannot be opened ends the process with status -1.
+inputMap readInputFile(const std::string& name);

@@ -1,13 +1,11 @@
 #include "app/jsonFormat.hpp"
 
 #include "app/inputFile.hpp"
-#include "io/inputMap.hpp"
 #include "io/reader.hpp"
 
 int jsonFormat(int argc, const char** argv) {
     std::string name;
     reader::getFlag("-f", argc, argv, name);
-    requireInputFile(name);
-    inputMap(name).print(reader::removeExtension(name) + ".json");
+    readInputFile(name).print(reader::removeExtension(name) + ".json");
     return 1;
 }

@@ -32,8 +32,7 @@ int nemohProject(int argc, const char** argv) {
         help();
         return -1;
     }
-    requireInputFile(name);
-    return setNemohCase(inputMap(name));
+    return setNemohCase(readInputFile(name));
 }
 
 } // namespace

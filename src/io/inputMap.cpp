@@ -22,6 +22,20 @@ bool isJson(const std::string& name) {
     return name.find(".json") != std::string::npos;
 }
 
+std::string readAll(std::istream& file, const std::string& name) {
+    std::string content;
+    std::vector<char> block(std::size_t(1) << 16);
+    while (file.good()) {
+        file.read(block.data(), static_cast<std::streamsize>(block.size()));
+        content.append(block.data(), static_cast<std::size_t>(file.gcount()));
+    }
+    if (file.bad()) {
+        printer::fatalError("Cannot read the input file " + name +
+                            " to its end. Expected a file on a disk without errors.");
+    }
+    return content;
+}
+
 } // namespace
 
 inputMap::inputMap(std::istream& in, char assignDLM, char memberDLM)
@@ -30,16 +44,25 @@ inputMap::inputMap(std::istream& in, char assignDLM, char memberDLM)
     assignSources();
 }
 
-inputMap::inputMap(std::string name) : fileName(std::move(name)) {
-    if (isJson(fileName)) {
-        assign = ':';
+inputMap::inputMap(const std::string& name) {
+    readFile(name);
+}
+
+bool inputMap::readFile(const std::string& name) {
+    fileName = name;
+    assign = isJson(fileName) ? ':' : '=';
+    std::ifstream file(fileName, std::ios::binary);
+    // A folder opens like a file but cannot be read like one.
+    std::error_code ignored;
+    if (!file.is_open() || std::filesystem::is_directory(fileName, ignored)) {
+        return false;
     }
     // Read whole: blocks are found by going back and forth in the text.
-    std::ifstream file(fileName, std::ios::binary);
-    const std::string content{std::istreambuf_iterator<char>(file), {}};
+    const std::string content = readAll(file, fileName);
     classicText text(content);
     map = sorvikIO::readInputStream(text, assign, member);
     assignSources();
+    return true;
 }
 
 void inputMap::assignSources() {

@@ -16,8 +16,12 @@ public:
     /// Reads the stream to its end.
     inputMap(std::istream& in, char assignDLM, char memberDLM);
     /// Reads the file, with ':' for '=' where its name contains ".json". A file that cannot be
-    /// opened gives an empty map: callers check first.
-    explicit inputMap(std::string fileName);
+    /// opened gives an empty map: callers that need it use `readFile`.
+    explicit inputMap(const std::string& name);
+
+    /// Replaces all by what the constructor reads; false where the file cannot be opened. A file
+    /// that cannot be read to its end is fatal.
+    bool readFile(const std::string& name);
 
     /// Resolves aliases until nothing changes, in at most 502 passes.
     void assignSources();

@@ -29,6 +29,10 @@ bool firstFlag(std::initializer_list<const char*> flags, int argc, const char** 
     return false;
 }
 
+[[noreturn]] void refuseFile(const std::string& name) {
+    printer::fatalError("Cannot find or open file: " + name);
+}
+
 /// The output folder that the input file asks for when the program is run through its interface.
 bool folderFromInput(const std::string& inputName, std::string& folder) {
     const inputMap inputs(inputName);
@@ -60,7 +64,9 @@ std::string findOldResults(int argc, const char** argv, const std::string& fallb
 
 void reader::setupReadOnly(int argc, const char** argv) {
     fileConfiguration(argc, argv);
-    inputs = inputMap(inputFile);
+    if (!inputs.readFile(inputFile)) {
+        refuseFile(inputFile);
+    }
 }
 
 void reader::fileConfiguration(int argc, const char** argv) {
@@ -146,7 +152,7 @@ bool reader::fileExist(const std::string& name, bool mustExist) {
     const bool found =
         std::ifstream(name).is_open() && !std::filesystem::is_directory(name, ignored);
     if (!found && mustExist) {
-        printer::fatalError("Cannot find or open file: " + name);
+        refuseFile(name);
     }
     return found;
 }

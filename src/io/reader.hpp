@@ -21,7 +21,8 @@ public:
     /// Whether result files are binary (1) or text (0).
     static int binaryOutput;
 
-    /// Settles the names with `fileConfiguration` and reads the input file. Writes nothing.
+    /// Settles the names with `fileConfiguration` and reads the input file, which must be there.
+    /// Writes nothing.
     void setupReadOnly(int argc, const char** argv);
 
     /// Settles input file (-f, -i), output folder (-output, -o, with -API "simulation.API.output")

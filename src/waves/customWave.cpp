@@ -76,6 +76,9 @@ void customWave::readFile(const std::string& name, bool useRadians) {
         auto phases = readRow(in, name, "phases");
         addWaveTrain(direction, amplitudes, frequencies, phases, useRadians);
     }
+    if (in.bad()) {
+        printer::fatalError("Cannot read the wave file " + name + " to its end");
+    }
     if (trains().empty()) {
         printer::fatalError("The wave file " + name + " of " + prefix +
                             "file holds no block of components, expected a direction and below it "

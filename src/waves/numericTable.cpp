@@ -6,11 +6,14 @@
 #include <fstream>
 
 int readNumericTable(const std::string& fileName, std::vector<double>& values) {
-    if (!reader::fileExist(fileName, false)) {
+    std::ifstream in(fileName);
+    if (!in.is_open() || !reader::fileExist(fileName, false)) {
         return 0;
     }
-    std::ifstream in(fileName);
     const int columns = sorvikIO::readData<double>(in, values, 0);
+    if (in.bad()) {
+        return 0;
+    }
     if (values.empty()) {
         return columns;
     }

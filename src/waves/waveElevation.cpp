@@ -17,7 +17,6 @@ int waveElevation(int argc, const char** argv) {
               << std::endl;
     reader config;
     config.setupReadOnly(argc, argv);
-    reader::fileExist(config.inputFile, true);
     globals::set(config);
     const std::unique_ptr<waveModel> model(waveFactory::create(config));
     waveProbes probes;

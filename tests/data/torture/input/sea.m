@@ -1,0 +1,2 @@
+environment.wave = { type = custom
+                     file = sea.txt }

@@ -54,7 +54,7 @@ struct digitRun {
 
 /// The digits from `p` on, where 8 characters can be read: all at once, since a loop over numbers
 /// of changing length is mostly mispredicted branches.
-digitRun readDigits(const char* p) {
+[[gnu::always_inline]] inline digitRun readDigits(const char* p) {
     constexpr std::uint64_t bytes = 0x0101010101010101U;
     // By byte: 0 to 9 for a digit; for others the top bit is set in `stops`, of which the lowest
     // counts.

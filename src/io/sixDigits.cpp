@@ -144,8 +144,8 @@ inline char* layOut(char* out, std::uint32_t number, const decade& d) {
         count = lastTriples[high] >> countShift;
     }
     std::memcpy(out, d.prefix, sizeof d.prefix);
-    littleEndian::store64(out + d.prefixLength,
-                          (digits & d.beforePoint) | d.point | (digits & ~d.beforePoint) << 8);
+    littleEndian::store(out + d.prefixLength,
+                        (digits & d.beforePoint) | d.point | (digits & ~d.beforePoint) << 8);
     return out + d.lengths[count];
 }
 

@@ -58,7 +58,7 @@ struct digitRun {
     constexpr std::uint64_t bytes = 0x0101010101010101U;
     // By byte: 0 to 9 for a digit; for others the top bit is set in `stops`, of which the lowest
     // counts.
-    std::uint64_t text = littleEndian::load64(p) ^ bytes * '0';
+    std::uint64_t text = littleEndian::load<std::uint64_t>(p) ^ bytes * '0';
     const std::uint64_t stops = ((text + bytes * (0x80 - 10)) | text) & (bytes * 0x80);
     const int length = stops == 0 ? 8 : __builtin_ctzll(stops) / 8;
     if (length == 0) {

@@ -46,7 +46,7 @@ constexpr std::size_t panelMemory = sizeof(triangle) + 9 * sizeof(double) + 16 +
 triangle loadFacet(const char* record) {
     float values[floatsPerFacet];
     for (std::size_t i = 0; i < floatsPerFacet; ++i) {
-        const std::uint32_t word = littleEndian::load32(record + i * sizeof(float));
+        const std::uint32_t word = littleEndian::load<std::uint32_t>(record + i * sizeof(float));
         std::memcpy(values + i, &word, sizeof word);
     }
     return triangle(values);
@@ -56,7 +56,7 @@ char* storeVector(char* bytes, v3<float> const& v) {
     for (const float value : {v.x, v.y, v.z}) {
         std::uint32_t word = 0;
         std::memcpy(&word, &value, sizeof word);
-        littleEndian::store32(bytes, word);
+        littleEndian::store(bytes, word);
         bytes += sizeof word;
     }
     return bytes;
@@ -210,7 +210,7 @@ bool bodyMesh::stl_read(std::string const& file) {
     std::ifstream in(file, std::ios::binary);
     char head[headerSize + countSize] = {};
     in.read(head, sizeof head);
-    const std::uint32_t count = littleEndian::load32(head + headerSize);
+    const std::uint32_t count = littleEndian::load<std::uint32_t>(head + headerSize);
     if (count > std::uint32_t(std::numeric_limits<int>::max()) ||
         !memory::canHold(count, panelMemory)) {
         printer::fatalError(file + " announces " + std::to_string(count) +
@@ -238,8 +238,8 @@ void bodyMesh::stl_print(std::string const& file, bool wetOnly) const {
 
 void bodyMesh::stl_write(std::ostream& stream, bool wetOnly) const {
     char head[headerSize + countSize] = {};
-    littleEndian::store32(head + headerSize, wetOnly ? static_cast<std::uint32_t>(wetFaces.size())
-                                                     : std::uint32_t(nFaces));
+    littleEndian::store(head + headerSize, wetOnly ? static_cast<std::uint32_t>(wetFaces.size())
+                                                   : std::uint32_t(nFaces));
     stream.write(head, sizeof head);
     facetWriter out(stream);
     forChosen(wetOnly, [&](triangle const& panel) { out.write(panel); });

@@ -23,7 +23,7 @@ bool memory::canHold(std::size_t count, std::size_t bytes) {
     }
     // Not through operator new, which may be set to end the process. The pointer is volatile for
     // the call not to be optimised away.
-    void* volatile trial = std::malloc(total);
+    void* volatile trial = std::malloc(total + 1);
     std::free(trial);
     return trial != nullptr;
 }

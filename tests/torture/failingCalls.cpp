@@ -40,6 +40,7 @@ Function* original(Function*, const char* name) {
 
 extern "C" {
 
+// NOLINTNEXTLINE(bugprone-reserved-identifier): the name is the C library's
 void* __libc_malloc(std::size_t size);
 
 void* malloc(std::size_t size) {

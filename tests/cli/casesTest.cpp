@@ -34,7 +34,8 @@ void runCase(std::istream& in) {
     programRun run{};
     for (std::string mark, name; in.good() && in.peek() != '='; in >> std::ws) {
         in >> mark;
-        std::getline(in >> std::ws, name);
+        std::getline(in, name);
+        name.erase(0, 1);
         if (mark == "!") {
             EXPECT_EQ(run.status, std::stoi(name));
         } else if (mark == "$") {

@@ -1,4 +1,4 @@
-% A Nemoh project of barge.stl, floating with 1.8 m draught:
+% A Nemoh project of the barge, floating with 1.8 m draught:
 %   sorvikPre -nemoh -f nemohProject.m
 bem = {
     output = nemohProject     % made where the program is run
@@ -19,7 +19,7 @@ environment = {
 }
 
 hydroBody1.bemInput = {
-    meshName  = barge.stl
+    meshName  = ../1-hull/barge.stl
     cogInMesh = [0, 0, -0.3]  % m, in the coordinates of the mesh file
     position  = [0, 0, -0.6]  % where that point comes to
 }

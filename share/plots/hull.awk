@@ -1,0 +1,61 @@
+# Projects a hull for hull.gp and gives gnuplot commands that draw it from the back to the front.
+#     awk -f hull.awk WETTED.dat HULL.gdf
+# Of the hull only what lies above the top of the wetted mesh is drawn. The waterline is the sides of
+# a single wetted panel with both ends at that height. Insides are drawn darker.
+BEGIN {
+    degree = atan2(0, -1) / 180
+    ca = cos(30 * degree); sa = sin(30 * degree) # the viewer stands at the azimuth -120 degrees
+    ce = cos(25 * degree); se = sin(25 * degree) # and 25 degrees above the water
+    order = "LC_ALL=C sort -k1,1gr | cut -d' ' -f2-"
+}
+NR == FNR && FNR > 1 && $1 == 0 { ++part }
+NR == FNR && FNR > 1 && $1 > 0 && !part { node($1, $2, $3, $4); if ($4 > level || !wetted++) level = $4 }
+NR == FNR && FNR > 1 && $1 > 0 && part { panel($1, $2, $3) }
+NR > FNR && FNR > 4 { for (i = 1; i < 9; i += 3) node(--fresh, $i, $(i + 1), $(i + 2)); panel(fresh + 2, fresh + 1, fresh) }
+
+function node(i, a, b, c) { x[i] = a; y[i] = b; z[i] = c }
+function panel(a, b, c) { ++panels; A[panels] = a; B[panels] = b; C[panels] = c; side[a, b]; side[b, c]; side[c, a] }
+
+# Appends a point to the polygon in the making.
+function point(a, b, c,    u, v, w) {
+    u = a * ca - b * sa; w = a * sa + b * ca
+    v = c * ce + w * se; depth += w * ce - c * se
+    if (!seen++) { left = right = u; low = high = v; x0 = x1 = a; y0 = y1 = b; z0 = z1 = c }
+    if (u < left) left = u; if (u > right) right = u; if (v < low) low = v; if (v > high) high = v
+    if (a < x0) x0 = a; if (a > x1) x1 = a; if (b < y0) y0 = b; if (b > y1) y1 = b; if (c < z0) z0 = c; if (c > z1) z1 = c
+    U[++corners] = u; V[corners] = v
+}
+# Appends the start of the side from a to b, and where the side goes through the water level.
+function follow(a, b, dry,    s) {
+    if (!dry || z[a] >= level) point(x[a], y[a], z[a])
+    if (dry && (z[a] - level) * (z[b] - level) < 0) {
+        s = (level - z[a]) / (z[b] - z[a])
+        point(x[a] + s * (x[b] - x[a]), y[a] + s * (y[b] - y[a]), level)
+    }
+}
+function draw(style, nearer,    i, text) {
+    for (i = 1; i <= corners; ++i) text = text sprintf("%s %.6g,%.6g", i > 1 ? " to" : "", U[i], V[i])
+    printf "%.9g set object polygon from%s to %.6g,%.6g %s\n", depth / corners - nearer, text, U[1], V[1], style | order
+}
+function waterline(a, b) {
+    if (z[a] < level - 1e-4 || z[b] < level - 1e-4 || (b, a) in side) return
+    corners = depth = 0
+    point(x[a], y[a], z[a]); point(x[b], y[b], z[b])
+    facing = (y[b] - y[a]) * sa > (x[b] - x[a]) * ca # then it stands before all panels
+    draw("fillstyle empty border rgb waterlineColour linewidth 2.5", facing ? 10 * size : size / 400)
+}
+END {
+    for (i = 1; i <= panels; ++i) {
+        corners = depth = 0; dry = A[i] < 0
+        follow(A[i], B[i], dry); follow(B[i], C[i], dry); follow(C[i], A[i], dry)
+        if (corners < 3) continue
+        inside = (U[2] - U[1]) * (V[3] - V[1]) < (U[3] - U[1]) * (V[2] - V[1])
+        draw("fillcolor rgb " (dry ? "dry" : "wet") (inside ? "Inside" : "Outside") " fillstyle solid border rgb edgeColour linewidth 0.4", 0)
+    }
+    size = right - left
+    for (i = 1; i <= panels; ++i) if (A[i] > 0) { waterline(A[i], B[i]); waterline(B[i], C[i]); waterline(C[i], A[i]) }
+    close(order)
+    printf "left = %g; right = %g; low = %g; high = %g; level = %g\n", left, right, low, high, level
+    printf "length = %g; breadth = %g; depth = %g\n", x1 - x0, y1 - y0, z1 - z0
+    printf "ca = %g; sa = %g; ce = %g; se = %g\n", ca, sa, ce, se
+}

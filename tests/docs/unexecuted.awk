@@ -1,0 +1,6 @@
+# Lists the command lines of a document that stand outside its console fences and are no synopses.
+/^```/ { fence = fence == "" ? (length($0) > 3 ? substr($0, 4) : "text") : ""; next }
+fence == "console" || (fence == "" && !/^    /) { next }
+{ sub(/^ +/, "") }
+/^(scripts|\.ci)\// || /^\$ / { print; next }
+/^(sorvikPre|gnuplot|awk|cmake|ctest|sh|bash) / && !/[A-Z][A-Z]|[<[][a-z]/ { print }

@@ -11,10 +11,16 @@ BEGIN {
 NR == FNR && FNR > 1 && $1 == 0 { ++part }
 NR == FNR && FNR > 1 && $1 > 0 && !part { node($1, $2, $3, $4); if ($4 > level || !wetted++) level = $4 }
 NR == FNR && FNR > 1 && $1 > 0 && part { panel($1, $2, $3) }
-NR > FNR && FNR > 4 { for (i = 1; i < 9; i += 3) node(--fresh, $i, $(i + 1), $(i + 2)); panel(fresh + 2, fresh + 1, fresh) }
+NR > FNR && FNR > 4 {
+    for (i = 1; i < 9; i += 3) node(--fresh, $i, $(i + 1), $(i + 2)) # below zero: of the hull
+    panel(fresh + 2, fresh + 1, fresh)
+}
 
 function node(i, a, b, c) { x[i] = a; y[i] = b; z[i] = c }
-function panel(a, b, c) { ++panels; A[panels] = a; B[panels] = b; C[panels] = c; side[a, b]; side[b, c]; side[c, a] }
+function panel(a, b, c) {
+    ++panels; A[panels] = a; B[panels] = b; C[panels] = c
+    side[a, b]; side[b, c]; side[c, a]
+}
 
 # Appends a point to the polygon in the making.
 function point(a, b, c,    u, v, w) {
@@ -22,7 +28,9 @@ function point(a, b, c,    u, v, w) {
     v = c * ce + w * se; depth += w * ce - c * se
     if (!seen++) { left = right = u; low = high = v; x0 = x1 = a; y0 = y1 = b; z0 = z1 = c }
     if (u < left) left = u; if (u > right) right = u; if (v < low) low = v; if (v > high) high = v
-    if (a < x0) x0 = a; if (a > x1) x1 = a; if (b < y0) y0 = b; if (b > y1) y1 = b; if (c < z0) z0 = c; if (c > z1) z1 = c
+    if (a < x0) x0 = a; if (a > x1) x1 = a
+    if (b < y0) y0 = b; if (b > y1) y1 = b
+    if (c < z0) z0 = c; if (c > z1) z1 = c
     U[++corners] = u; V[corners] = v
 }
 # Appends the start of the side from a to b, and where the side goes through the water level.
@@ -35,7 +43,8 @@ function follow(a, b, dry,    s) {
 }
 function draw(style, nearer,    i, text) {
     for (i = 1; i <= corners; ++i) text = text sprintf("%s %.6g,%.6g", i > 1 ? " to" : "", U[i], V[i])
-    printf "%.9g set object polygon from%s to %.6g,%.6g %s\n", depth / corners - nearer, text, U[1], V[1], style | order
+    printf "%.9g set object polygon from%s to %.6g,%.6g %s\n",
+        depth / corners - nearer, text, U[1], V[1], style | order
 }
 function waterline(a, b) {
     if (z[a] < level - 1e-4 || z[b] < level - 1e-4 || (b, a) in side) return
@@ -50,10 +59,13 @@ END {
         follow(A[i], B[i], dry); follow(B[i], C[i], dry); follow(C[i], A[i], dry)
         if (corners < 3) continue
         inside = (U[2] - U[1]) * (V[3] - V[1]) < (U[3] - U[1]) * (V[2] - V[1])
-        draw("fillcolor rgb " (dry ? "dry" : "wet") (inside ? "Inside" : "Outside") " fillstyle solid border rgb edgeColour linewidth 0.4", 0)
+        draw("fillcolor rgb " (dry ? "dry" : "wet") (inside ? "Inside" : "Outside") \
+            " fillstyle solid border rgb edgeColour linewidth 0.4", 0)
     }
     size = right - left
-    for (i = 1; i <= panels; ++i) if (A[i] > 0) { waterline(A[i], B[i]); waterline(B[i], C[i]); waterline(C[i], A[i]) }
+    for (i = 1; i <= panels; ++i) {
+        if (A[i] > 0) { waterline(A[i], B[i]); waterline(B[i], C[i]); waterline(C[i], A[i]) }
+    }
     close(order)
     printf "left = %g; right = %g; low = %g; high = %g; level = %g\n", left, right, low, high, level
     printf "length = %g; breadth = %g; depth = %g\n", x1 - x0, y1 - y0, z1 - z0

@@ -21,8 +21,10 @@ set xrange [(left + right) / 2 - half:(left + right) / 2 + half]
 set yrange [(low + high) / 2 - half / aspect:(low + high) / 2 + half / aspect]
 
 # The directions of the axes, in the lower right corner.
-tip(u, v, name) = sprintf("set arrow from screen 0.92, 0.1 to screen %g, %g size screen 0.01, 20 filled linewidth 1; set label '%s' at screen %g, %g center", \
-    0.92 + 0.05 * u, 0.1 + 0.05 * v * 900 / height, name, 0.92 + 0.068 * u, 0.1 + 0.068 * v * 900 / height)
+across(s, u) = 0.92 + s * u
+up(s, v) = 0.1 + s * v * 900 / height
+tip(u, v, name) = sprintf("set label '%s' at screen %g, %g center; set arrow from screen 0.92, 0.1 to screen %g, %g " \
+    ."size screen 0.01, 20 filled linewidth 1", name, across(0.068, u), up(0.068, v), across(0.05, u), up(0.05, v))
 eval tip(ca, sa * se, "x")
 eval tip(-sa, ca * se, "y")
 eval tip(0, ce, "z")

@@ -5,7 +5,11 @@
 # the multiples of 1/(to - from) up to half the sampling frequency, `smooth` neighbours averaged.
 BEGIN { if (!probe) probe = 1; if (!smooth) smooth = 1; from += 0; bounded = to != "" }
 $1 + 0 < from || (bounded && $1 + 0 >= to + 0) { next }
-{ if (n == 1) dt = $1 - start; else if (n == 0) start = $1; signal[n++] = $(probe + 1); mean += $(probe + 1) }
+{
+    if (n == 0) start = $1
+    if (n == 1) dt = $1 - start
+    signal[n++] = $(probe + 1); mean += $(probe + 1)
+}
 END {
     if (n < 3 || dt <= 0) { print "spectrum.awk: fewer than three instants" > "/dev/stderr"; exit 1 }
     mean /= n

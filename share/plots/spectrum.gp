@@ -7,17 +7,19 @@ if (ARGC < 5) { print "Usage: gnuplot -c spectrum.gp FOLDER PICTURE.svg HS FP GA
 here = system("dirname '".ARG0."'"); folder = ARG1; picture = ARG2
 load here."/style.gp"
 Hs = real(ARG3); fp = real(ARG4); gamma = real(ARG5)
-signal = sprintf("< awk -v from='%s' -v to='%s' -v probe='%s' -v smooth='%s' -f '%s/spectrum.awk' '%s/waveElevation.dat'", \
-    ARGC > 5 ? ARG6 : "0", ARGC > 6 ? ARG7 : "", ARGC > 7 ? ARG8 : "1", ARGC > 8 ? ARG9 : "1", here, folder)
+argument(i) = i > ARGC ? "" : ARGV[i]
+options = sprintf("-v from='%s' -v to='%s' -v probe='%s' -v smooth='%s'", \
+    argument(6), argument(7), argument(8), argument(9))
+signal = sprintf("< awk %s -f '%s/spectrum.awk' '%s/waveElevation.dat'", options, here, folder)
 
 # The shape is scaled to the variance HS^2/16.
 width(f) = f > fp ? 0.09 : 0.07
-shape(f) = f < 0.2 * fp ? 0 : f**-5 * exp(-1.25 * (fp / f)**4) * gamma**exp(-(f / fp - 1)**2 / (2 * width(f)**2))
+shape(f) = f < 0.2 * fp ? 0 : f**-5 * exp(-1.25 * (fp / f)**4) * \
+    gamma**exp(-(f / fp - 1)**2 / (2 * width(f)**2))
 step = fp / 200
 scale = Hs**2 / 16 / (step * sum [i = 40:2000] shape(i * step))
 
-stats signal using 2 nooutput
-measured = 0; last = 0; spacing = 0
+last = 0
 stats signal using (spacing = $1 - last, last = $1, $2) nooutput
 set title sprintf("Spectrum of the signal: significant wave height %.2f m", 4 * sqrt(STATS_sum * spacing))
 set xlabel "Frequency [Hz]"
@@ -26,8 +28,7 @@ set xrange [0:3.2 * fp]
 set yrange [0:*]
 set samples 1000
 set key top right
-plot \
-    signal using 1:2 with impulses linewidth 0.7 linecolor rgb colour[6] notitle, \
+plot signal using 1:2 with impulses linewidth 0.7 linecolor rgb colour[6] notitle, \
     scale * shape(x) with lines linewidth 1.6 linecolor rgb colour[2] \
     title sprintf("JONSWAP, Hs = %g m, fp = %g Hz, gamma = %g", Hs, fp, gamma), \
     signal using 1:2 with points pointtype 7 pointsize 0.4 linecolor rgb colour[1] title "signal of the probe"

@@ -11,8 +11,8 @@ domain = system("cat '".folder."/waveDomain.dat'")
 X = real(word(domain, 1)); Y = real(word(domain, 2)); nx = int(word(domain, 3)); ny = int(word(domain, 4))
 instant = system(sprintf("awk '{ t = $1 } %s { exit } END { print t }' '%s'", \
     ARGC > 2 ? "$1 >= ".ARG3 : "0", table))
-rows = sprintf("< awk '$1 == %s { for (p = 2; p <= NF; ++p) { printf \"%%s%%s\", $p, (p - 1) %% %d ? \" \" : \"\\n\" }; exit }' '%s'", \
-    instant, nx + 1, table)
+print_rows = "$1 == instant { for (p = 2; p <= NF; ++p) printf \"%s%s\", $p, (p - 1) % columns ? \" \" : \"\\n\"; exit }"
+rows = sprintf("< awk -v instant='%s' -v columns=%d '%s' '%s'", instant, nx + 1, print_rows, table)
 
 stats rows matrix nooutput
 largest = STATS_max > -STATS_min ? STATS_max : -STATS_min

@@ -39,7 +39,7 @@ while read -r picture; do
     drawn=$(find "$scratch/examples" "$scratch/out" -name "${picture##*/}")
     xmllint --noout "$drawn"
     version=$(grep 'Produced by' "$drawn")
-    if [ -n "$update" ] || grep -qF "$version" "$root/docs/$picture"; then
+    if [ -n "$update" ] || ! [ -e "$root/docs/$picture" ] || grep -qF "$version" "$root/docs/$picture"; then
         compare "$root/docs/$picture" "$drawn"
     fi
 done < <(grep -o 'pictures/[a-zA-Z]*\.svg' "$root/$document")

@@ -7,7 +7,8 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 build_packages=(g++ cmake ninja-build)
 test_packages=(libgtest-dev libgmock-dev gnuplot-nox libxml2-utils)
-check_packages=(clang clang-format clang-tidy libclang-rt-dev libbenchmark-dev shellcheck git)
+check_packages=(clang clang-format clang-tidy libclang-rt-dev libbenchmark-dev shellcheck git
+    pandoc mandoc groff-base)
 
 is_installed() {
     dpkg-query -W -f='${Status}' "$1" 2>/dev/null | grep -q 'install ok installed'

@@ -1,0 +1,10 @@
+# Run as a script: writes PAGE, the manual page of VERSION and DATE, from manual.md with PANDOC.
+execute_process(
+  COMMAND ${PANDOC} --from markdown_strict+pipe_tables+backtick_code_blocks --to man
+    --shift-heading-level-by=-1 --template ${CMAKE_CURRENT_LIST_DIR}/manPage.template
+    --lua-filter ${CMAKE_CURRENT_LIST_DIR}/manPage.lua
+    --variable version=${VERSION} --variable date=${DATE} ${CMAKE_CURRENT_LIST_DIR}/manual.md
+  OUTPUT_VARIABLE page COMMAND_ERROR_IS_FATAL ANY)
+# Long tables run over pages: kept together, they would bring gaps.
+string(REPLACE "\ntab(@);" "\nnokeep tab(@);" page "${page}")
+file(WRITE ${PAGE} "${page}")

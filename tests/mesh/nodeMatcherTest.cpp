@@ -1,6 +1,6 @@
 #include "mesh/nodeMatcher.hpp"
+#include "support/meshes.hpp"
 
-#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <numeric>
@@ -10,23 +10,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-
-/// Every corner against all nodes, in order.
-void scan(std::vector<v3<float>>& nodes, std::vector<int>& corners, const v3<float> (&points)[3]) {
-    int found[3];
-    for (int i = 0; i < 3; ++i) {
-        const auto match = std::find_if(nodes.begin(), nodes.end(), [&](v3<float> const& n) {
-            return 1e-5 > static_cast<double>(length(points[i] - n));
-        });
-        found[i] = match == nodes.end() ? 0 : static_cast<int>(match - nodes.begin()) + 1;
-    }
-    for (int i = 0; i < 3; ++i) {
-        if (found[i] == 0) {
-            nodes.push_back(points[i]);
-        }
-        corners.push_back(found[i] != 0 ? found[i] : static_cast<int>(nodes.size()));
-    }
-}
 
 /// A coordinate at, next to, or about a tolerance from one of a few places.
 float nearPlace(std::mt19937& random, std::vector<float> const& places) {
@@ -62,7 +45,7 @@ TEST(nodeMatcher, findsWhatAPlainScanFinds) {
                     p.z = round % 4 < 2 ? -2 : nearPlace(random, clouds[cloud]);
                 }
                 matcher.addPanel(points[0], points[1], points[2]);
-                scan(nodes, corners, points);
+                scanForNodes(nodes, corners, points);
             }
             ASSERT_EQ(matcher.corners(), corners) << "cloud " << cloud << ", round " << round;
         }

@@ -1,5 +1,6 @@
 #include "support/meshes.hpp"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -45,4 +46,21 @@ void fillMesh(bodyMesh& mesh, std::vector<triangle> panels) {
     mesh.faces = std::move(panels);
     mesh.nFaces = static_cast<int>(mesh.faces.size());
     mesh.updateWetSurface(0.0);
+}
+
+void scanForNodes(std::vector<v3<float>>& nodes, std::vector<int>& corners,
+                  const v3<float> (&points)[3]) {
+    int found[3];
+    for (int i = 0; i < 3; ++i) {
+        const auto match = std::find_if(nodes.begin(), nodes.end(), [&](v3<float> const& n) {
+            return 1e-5 > static_cast<double>(length(points[i] - n));
+        });
+        found[i] = match == nodes.end() ? 0 : static_cast<int>(match - nodes.begin()) + 1;
+    }
+    for (int i = 0; i < 3; ++i) {
+        if (found[i] == 0) {
+            nodes.push_back(points[i]);
+        }
+        corners.push_back(found[i] != 0 ? found[i] : static_cast<int>(nodes.size()));
+    }
 }

@@ -14,3 +14,7 @@ std::vector<triangle> ellipsoid(int around, int rings);
 
 /// Fills a mesh as a reader does, cut at z = 0 where it lies.
 void fillMesh(bodyMesh& mesh, std::vector<triangle> panels);
+
+/// The nodes of the corners of a panel: every corner against all nodes, in order.
+void scanForNodes(std::vector<v3<float>>& nodes, std::vector<int>& corners,
+                  const v3<float> (&points)[3]);

@@ -1,0 +1,107 @@
+#pragma once
+
+#include "io/classicText.hpp"
+#include "io/sorvikIO.hpp"
+#include "target.hpp"
+
+#include <cctype>
+#include <map>
+#include <vector>
+
+using entries = std::map<std::string, std::string>;
+
+inline entries readText(const std::string& text, char assign) {
+    classicText in(text);
+    return sorvikIO::readInputStream(in, assign, '.');
+}
+
+/// The same line by line, without looking ahead in the text.
+inline entries readPlainly(std::istream&& in, char assign) {
+    entries map;
+    for (std::string key; in.good();) {
+        const std::streamoff start = in.tellg();
+        std::getline(in, key);
+        sorvikIO::stripFromComment(key);
+        const std::size_t split = key.find(assign);
+        if (split == std::string::npos) {
+            continue;
+        }
+        std::string value = key.substr(split + 1);
+        key.erase(split);
+        sorvikIO::strip(key);
+        sorvikIO::strip(value);
+        sorvikIO::stripFromUnwanted(key);
+        std::size_t nested = std::string::npos;
+        if (!value.empty() && std::string("({[<'\"").find(value[0]) != std::string::npos) {
+            in.clear();
+            in.seekg(start + static_cast<std::streamoff>(split) + 1);
+            value = sorvikIO::extractBlock(in);
+            nested = value.find(assign) == value.find(":\\") ? nested : value.find(assign);
+        } else {
+            sorvikIO::stripFromUnwanted(value);
+        }
+        if (value.empty() || map.count(key) != 0) {
+            continue;
+        }
+        if (nested != std::string::npos) {
+            for (const auto& [name, text] : readPlainly(std::istringstream(value), assign)) {
+                map.emplace((key + ".").append(name), text);
+            }
+            continue;
+        }
+        sorvikIO::stripFromUnwanted(value);
+        map.emplace(key, value);
+    }
+    return map;
+}
+
+/// The words of a value, a blank behind each.
+inline std::string wordsOf(const std::string& value) {
+    std::string words;
+    classicText in(value);
+    for (std::string word; in >> word;) {
+        words.append(word) += ' ';
+    }
+    return words;
+}
+
+/// Whether JSON, which escapes nothing, holds the entry such that it reads as one.
+inline bool isPlain(const std::string& key, const std::string& value) {
+    const std::string words = wordsOf(value);
+    const bool isPath =
+        value.find("..") != std::string::npos || value.find_first_of("/\\") != std::string::npos;
+    const bool isBare = !isPath && words.find(' ') + 1 == words.size() &&
+                        std::isalpha(static_cast<unsigned char>(words[0])) == 0;
+    const bool isRead =
+        isBare ? words.find('#') == std::string::npos : words.find(':') == words.find(":\\");
+    return isRead && key.find_first_of(":#\r") == std::string::npos &&
+           key.find(" .") == std::string::npos && key.find(". ") == std::string::npos;
+}
+
+/// Compares the map of a text with a plain reading, and its words with those of its JSON text.
+/// There a plain entry hides the block of its name, and one without words is none.
+inline void checkLanguage(const std::string& text, char assign) {
+    const entries map = readText(text, assign);
+    check(map == readPlainly(std::istringstream(text), assign));
+    const std::string json = sorvikIO::toJSON(map, 0);
+    entries expected;
+    for (const auto& [key, value] : map) {
+        if (!isPlain(key, value)) {
+            return;
+        }
+        bool isHidden = wordsOf(value).empty();
+        for (std::size_t dot = key.find('.'); dot != std::string::npos;
+             dot = key.find('.', dot + 1)) {
+            isHidden = isHidden || expected.count(key.substr(0, dot)) != 0;
+        }
+        if (!isHidden) {
+            expected[key] = wordsOf(value);
+        }
+    }
+    // No text of the program's own ends it.
+    entries again = [&]() noexcept { return readText(json, ':'); }();
+    for (auto& [key, value] : again) {
+        value = wordsOf(value);
+    }
+    check(again == expected);
+}

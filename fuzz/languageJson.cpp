@@ -1,0 +1,5 @@
+#include "languageCheck.hpp"
+
+void tryText(const std::string& text) {
+    checkLanguage(text, ':');
+}

@@ -1,0 +1,33 @@
+#include "io/littleEndian.hpp"
+#include "meshCheck.hpp"
+
+#include <algorithm>
+
+void tryText(const std::string& text) {
+    std::string head = text.substr(0, 84);
+    head.resize(84);
+    const auto count = littleEndian::load<std::uint32_t>(head.data() + 80);
+    // A count that memory can hold is believed.
+    if (count > 5000 && count <= 0x7FFFFFFFU) {
+        return;
+    }
+    bodyMesh mesh;
+    const bool isWhole = mesh.stl_read(fileOf("in.stl", text));
+    check(mesh.faces.size() == count && isWhole == (text.size() >= 84 + 50 * std::size_t(count)));
+    mesh.stl_print(pathOf("1.stl"), false);
+    const std::string written = contentOf(pathOf("1.stl"));
+    check(written.size() == 84 + 50 * std::size_t(count) &&
+          bodyMesh::stl_isbinary(pathOf("1.stl")));
+    // What the file lacks is left of the record before.
+    std::string record(50, '\0');
+    for (std::size_t at = 84; at < written.size(); at += 50) {
+        const std::string found = text.substr(std::min(at, text.size()), 50);
+        record.replace(0, found.size(), found);
+        check(written.compare(at, 48, record, 0, 48) == 0);
+    }
+    bodyMesh again;
+    check(again.stl_read(pathOf("1.stl")));
+    again.stl_print(pathOf("2.stl"), false);
+    check(contentOf(pathOf("2.stl")) == written);
+    checkCuts(mesh);
+}

@@ -1,0 +1,37 @@
+#include "waves/numericTable.hpp"
+
+#include "target.hpp"
+
+void tryText(const std::string& text) {
+    std::vector<double> values;
+    const int columns = readNumericTable(fileOf("table", text), values);
+    double first = 0;
+    std::istringstream all(text);
+    all >> first;
+    const int next = all.peek();
+    if (next == ';' || next == ',' || next == ':' || next == '=') {
+        check(values.empty() && columns > 0);
+        return;
+    }
+    // Every row ends with its line or its first word that is no number.
+    std::size_t at = 0;
+    int length = 0;
+    bool isEven = true;
+    std::istringstream lines(text);
+    std::string line;
+    for (bool isFirst = true; std::getline(lines, line) || isFirst; isFirst = false) {
+        std::istringstream in(line);
+        int count = 0;
+        for (double value = 0; in.good(); in >> std::ws) {
+            in >> value;
+            check(at < values.size() && values[at++] == value);
+            ++count;
+        }
+        length = isFirst ? count : length;
+        if (count != length) {
+            isEven = false;
+            break;
+        }
+    }
+    check(at == values.size() && columns == (isEven ? length : 0));
+}

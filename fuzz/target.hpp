@@ -1,0 +1,62 @@
+#pragma once
+
+#include <cstdint>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <sstream>
+#include <string>
+
+#ifndef exit
+struct programEnd {};
+#endif
+
+/// Stops the program where `condition` does not hold, in every kind of build.
+inline void check(bool condition) {
+    if (!condition) {
+        __builtin_trap();
+    }
+}
+
+/// The path of `name` in a folder of this process, which lies in memory where TMPDIR does.
+inline std::string pathOf(const std::string& name) {
+    static const struct temporaryFolder {
+        std::string path = (std::filesystem::temp_directory_path() / "sorvikFuzz.XXXXXX").string();
+        temporaryFolder() { check(mkdtemp(path.data()) != nullptr); }
+        ~temporaryFolder() { std::filesystem::remove_all(path); }
+    } folder;
+    return folder.path + "/" + name;
+}
+
+inline std::string fileOf(const std::string& name, const std::string& content) {
+    std::ofstream(pathOf(name), std::ios::binary) << content;
+    return pathOf(name);
+}
+
+inline std::string contentOf(const std::string& file) {
+    std::ifstream in(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+/// What the program has printed.
+inline std::stringbuf& output() {
+    static auto& text = *new std::stringbuf;
+    return text;
+}
+
+/// Reads `text` and checks the outcome.
+void tryText(const std::string& text);
+
+/// A fatal error is an outcome like any other.
+extern "C" [[gnu::used]] inline int LLVMFuzzerTestOneInput(const std::uint8_t* data,
+                                                           std::size_t size) {
+    output().str("");
+    std::cout.rdbuf(&output());
+    try {
+        tryText({reinterpret_cast<const char*>(data), size});
+    } catch (const programEnd&) {
+    }
+    return 0;
+}

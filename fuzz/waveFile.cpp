@@ -1,0 +1,30 @@
+#include "target.hpp"
+#include "waves/customWave.hpp"
+#include "waves/waveConfig.hpp"
+
+void tryText(const std::string& text) {
+    const std::string settings = "environment.wave.useRadians = 1\nenvironment.wave.file = ";
+    const customWave wave(configOf(settings + fileOf("wave", text)));
+    // Rows that are missing or differ in length have ended the run.
+    std::istringstream in(text);
+    std::size_t trains = 0;
+    for (double direction = 0; in >> direction >> std::ws; ++trains) {
+        waveTrain const& train = wave.trains().at(trains);
+        for (const auto value : {&waveComponent2D::amplitude, &waveComponent2D::angularFrequency,
+                                 &waveComponent2D::phase}) {
+            std::string line;
+            std::getline(in, line);
+            std::istringstream row(line);
+            for (waveComponent2D const& component : train.components()) {
+                double expected = 0;
+                row >> expected >> std::ws;
+                check((component.*value)() == expected);
+            }
+            check(!row.good());
+        }
+    }
+    check(trains == wave.trains().size());
+    const double place = 3;
+    double elevation = 0;
+    wave.eta(1, &place, &place, &elevation);
+}

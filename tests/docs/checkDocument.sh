@@ -12,7 +12,8 @@ failures=0
 # or brackets) and scripts, which CI runs.
 awk -f "$root/tests/docs/unexecuted.awk" "$root/$document" | while read -r command rest; do
     case $command in
-    scripts/* | .ci/*) [ -x "$root/$command" ] && grep -q "$command" "$root/.ci/run" && continue ;;
+    .ci/run) continue ;;
+    scripts/*) [ -x "$root/$command" ] && grep -q "$command" "$root/.ci/run" && continue ;;
     esac
     echo "$document: not run by any test: $command $rest" >&2
     exit 1

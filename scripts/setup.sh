@@ -6,7 +6,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 build_packages=(g++ cmake ninja-build)
-test_packages=(libgtest-dev libgmock-dev gnuplot-nox libxml2-utils python3 parallel procps)
+test_packages=(libgtest-dev libgmock-dev gnuplot-nox libxml2-utils python3 parallel procps snakemake)
 check_packages=(clang clang-format clang-tidy libclang-rt-dev libbenchmark-dev shellcheck git
     pandoc mandoc groff-base)
 

@@ -1,0 +1,8 @@
+# The version and its date stand in CITATION.cff alone.
+foreach(key IN ITEMS version date-released)
+  file(STRINGS CITATION.cff line REGEX "^${key}: ")
+  string(REGEX REPLACE ".*: *" "" citation_${key} "${line}")
+endforeach()
+set(SORVIK_VERSION ${citation_version})
+set(SORVIK_RELEASE_DATE ${citation_date-released})
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS CITATION.cff)

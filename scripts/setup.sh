@@ -8,7 +8,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 build_packages=(g++ cmake ninja-build)
 test_packages=(libgtest-dev libgmock-dev gnuplot-nox libxml2-utils python3 parallel procps snakemake)
 check_packages=(clang clang-format clang-tidy libclang-rt-dev libbenchmark-dev shellcheck git
-    pandoc mandoc groff-base busybox python3-yaml)
+    pandoc mandoc groff-base busybox zsh fish python3-yaml)
 
 is_installed() {
     dpkg-query -W -f='${Status}' "$1" 2>/dev/null | grep -q 'install ok installed'

@@ -1,0 +1,39 @@
+# What `cmake --install` puts where. The suite's other programs get the library through
+# find_package(sorvik); the front end's headers are its own.
+include(GNUInstallDirs)
+include(CMakePackageConfigHelpers)
+set(SORVIK_ZSH_COMPLETIONS ${CMAKE_INSTALL_DATADIR}/zsh/site-functions
+    CACHE STRING "Where zsh looks for completions")
+
+target_compile_features(sorvik PUBLIC cxx_std_17)
+install(TARGETS sorvikPre)
+install(TARGETS sorvik EXPORT sorvik INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/sorvik)
+install(DIRECTORY src/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/sorvik
+  FILES_MATCHING PATTERN "*.hpp" PATTERN app EXCLUDE)
+
+set(configFolder ${CMAKE_INSTALL_LIBDIR}/cmake/sorvik)
+install(EXPORT sorvik FILE sorvikConfig.cmake NAMESPACE sorvik:: DESTINATION ${configFolder})
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/sorvikConfigVersion.cmake
+  COMPATIBILITY SameMinorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/sorvikConfigVersion.cmake DESTINATION ${configFolder})
+
+install(PROGRAMS tools/sorvik-run TYPE BIN)
+configure_file(tools/sorvik-run.1.in sorvik-run.1 @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/sorvik-run.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES README.md CHANGELOG.md CITATION.cff TYPE DOC)
+install(DIRECTORY docs/ TYPE DOC FILES_MATCHING PATTERN "*.md" PATTERN "*.svg")
+set(dataFolder ${CMAKE_INSTALL_DATADIR}/sorvikPre)
+install(DIRECTORY examples DESTINATION ${dataFolder} USE_SOURCE_PERMISSIONS)
+if(EXISTS ${PROJECT_SOURCE_DIR}/share/plots)
+  install(DIRECTORY share/plots DESTINATION ${dataFolder} USE_SOURCE_PERMISSIONS)
+endif()
+
+# Shells load a completion by the name of the command.
+set(completions share/completions)
+foreach(command IN ITEMS sorvikPre sorvik-run)
+  install(FILES ${completions}/sorvikPre.bash RENAME ${command}
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
+  install(FILES ${completions}/${command}.fish
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
+endforeach()
+install(FILES ${completions}/_sorvikPre DESTINATION ${SORVIK_ZSH_COMPLETIONS})

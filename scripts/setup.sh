@@ -9,6 +9,7 @@ build_packages=(g++ cmake ninja-build)
 test_packages=(libgtest-dev libgmock-dev gnuplot-nox libxml2-utils python3 parallel procps snakemake)
 check_packages=(clang clang-format clang-tidy libclang-rt-dev libbenchmark-dev shellcheck git
     pandoc mandoc groff-base busybox zsh fish python3-yaml)
+package_packages=(dpkg-dev lintian pandoc debootstrap git)
 
 is_installed() {
     dpkg-query -W -f='${Status}' "$1" 2>/dev/null | grep -q 'install ok installed'

@@ -1,0 +1,27 @@
+# The packages that `cpack` makes, by scripts/package: the same bytes in every folder.
+set(SORVIK_MAINTAINER "sorvikPre developers <sorvikpre@packages.invalid>"
+    CACHE STRING "Who answers for the Debian package")
+set(CPACK_GENERATOR DEB TGZ)
+set(CPACK_PACKAGE_NAME sorvikPre)
+set(CPACK_PACKAGE_VENDOR "sorvikPre developers")
+set(CPACK_PACKAGE_CONTACT ${SORVIK_MAINTAINER})
+set(CPACK_STRIP_FILES ON)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+set(CPACK_PRE_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/cmake/stagePackage.cmake)
+set(CPACK_POST_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/cmake/settlePackage.cmake)
+
+set(CPACK_DEBIAN_PACKAGE_NAME sorvikpre)
+set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION science)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "gnuplot-nox, parallel")
+set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
+"Converts hull surface meshes between STL, WAMIT GDF and Nemoh and cuts them
+at the waterline, sets up projects for the boundary-element solver Nemoh,
+writes the surface elevation of regular, JONSWAP and listed waves, and turns
+input files into JSON. The library and its headers come with it.")
+include(CPack)

@@ -26,6 +26,7 @@ trap 'rm -rf "$scratch"' EXIT
 mkdir "$scratch/out" "$scratch/build"
 cp -r "$root/examples" "$root/share" "$scratch"
 cp "$1" "$scratch/build/sorvikPre"
+cp "$root/tools/sorvik-run" "$scratch/build"
 case $document in docs/*) folder=examples ;; *) folder=$(dirname "$document") ;; esac
 awk -f "$root/tests/docs/rerun.awk" "$root/$document" >"$scratch/commands"
 export LC_ALL=C PATH=$scratch/build:$PATH said=$scratch/said

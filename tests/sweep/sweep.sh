@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# sweep.sh PROGRAM EXAMPLE: 200 cases, two of them bad, one job at a time, and two at a time, killed
-# half-way and resumed. The results must be the same to the byte. The single jobs are those of
+# sweep.sh PROGRAM WRAPPER EXAMPLE: 200 cases, two of them bad, one job at a time, and two at a time,
+# killed half-way and resumed. The results must be the same to the byte. The single jobs are those of
 # sweep.sbatch, with a stand-in for srun.
-program=$1 example=$2 session=none
+program=$1 wrapper=$2 example=$3 session=none
 command -v parallel >/dev/null || exit 77
 work=$(mktemp -d)
 sweep=(parallel --will-cite --joblog log --resume-failed --header : --colsep '\t'
@@ -26,7 +26,8 @@ if [ -n "\$HALF" ] && [ "\$(ls .. | grep -vc part)" -ge 100 ]; then
 fi
 exec "$program" "\$@"
 END
-chmod +x "$work/bin/sorvikPre" && export PATH="$work/bin:$PATH" && cp -r . ../two || exit 2
+chmod +x "$work/bin/sorvikPre" && cp "$wrapper" "$work/bin" && cp -r . ../two || exit 2
+export PATH="$work/bin:$PATH" TMPDIR=$work
 # shellcheck disable=SC2016
 printf '#!/bin/sh\nwhile [ "$1" != ./runCase ]; do shift; done\nexec "$@"\n' >"$work/bin/srun"
 chmod +x "$work/bin/srun"

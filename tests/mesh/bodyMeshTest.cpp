@@ -1,5 +1,4 @@
 #include "mesh/bodyMesh.hpp"
-#include "support/files.hpp"
 #include "support/meshes.hpp"
 #include "support/program.hpp"
 
@@ -27,38 +26,10 @@ double wetArea(bodyMesh const& mesh) {
     return sum;
 }
 
-/// A box of 4 x 2 x 3 m, its bottom at z = -1, in a file.
-struct bodyMeshOfBox : testing::Test {
-    bodyMeshOfBox() {
-        bodyMesh mesh;
-        fillMesh(mesh, box({-2, -1, -1}, {2, 1, 2}));
-        mesh.stl_print(file, false);
-    }
-    const temporaryFolder folder;
-    const std::string file = folder.path("box.stl");
-};
-
-TEST_F(bodyMeshOfBox, isPlacedAndCut) {
-    struct placement {
-        numbers origin, position;
-        double level;
-        double depth; ///< of the bottom below the level [m]
-    };
-    const placement cases[] = {{{0, 0, 0}, {0, 0, 0}, 0, 1},
-                               {{0, 0, -2}, {0, 0, 0}, 1.5, 0.5},
-                               {{0, 0, 0}, {0, 0, -1}, 0, 2},
-                               {{5, 6, 1}, {7, 8, -1}, 0.25, 3}};
-    for (const placement& c : cases) {
-        const bodyMesh mesh(file, c.origin, c.position, c.level);
-        EXPECT_NEAR(wetArea(mesh), c.depth < 3 ? 8 + 12 * c.depth : 52, 1e-5) << c.level;
-        EXPECT_NEAR(mesh.totalArea, 52, 1e-5);
-        EXPECT_EQ(mesh.faces[0].vertexA.x, static_cast<float>(-2 - c.origin[0]));
-        EXPECT_EQ(mesh.origin.z, 0.0F);
-    }
-}
-
-TEST_F(bodyMeshOfBox, movesAndTurns) {
-    bodyMesh mesh(file, {0, 0, 0}, {10, 20, -0.5}, 0);
+TEST(bodyMesh, movesAndTurns) {
+    bodyMesh mesh("missing.stl", {0, 0, 0}, {10, 20, -0.5}, 0);
+    fillMesh(mesh, {triangle({-2, -1, -1}, {2, 1, -1}, {2, 1, 2})});
+    mesh.updateWetSurface(0);
     const double before = wetArea(mesh);
     for (int again = 0; again < 2; ++again) {
         mesh.translate();
@@ -83,23 +54,19 @@ TEST_F(bodyMeshOfBox, movesAndTurns) {
     EXPECT_EQ(mesh.faces[0].vertexA.y, -corner.y);
 }
 
-TEST(bodyMesh, mirrorsHalfHulls) {
+TEST(bodyMesh, mirrorsNormals) {
     bodyMesh mesh;
     fillMesh(mesh, {triangle({0, 1, 0}, {0, 2, 0}, {3, 1, -1})});
     mesh.mirrorY();
     mesh.mirrorX();
-    ASSERT_EQ(mesh.nFaces, 4);
-    ASSERT_EQ(mesh.faces.size(), 4U);
     const v3<float> n = mesh.faces[0].normal;
     const float signs[][2] = {{1, 1}, {1, -1}, {-1, 1}, {-1, -1}};
     for (std::size_t i = 0; i < 4; ++i) {
-        EXPECT_EQ(mesh.faces[i].normal.x, signs[i][0] * n.x) << i;
-        EXPECT_EQ(mesh.faces[i].normal.y, signs[i][1] * n.y) << i;
-        EXPECT_EQ(mesh.faces[i].normal.z, n.z) << i;
+        const v3<float> mirrored = mesh.faces.at(i).normal;
+        EXPECT_EQ(mirrored.x, signs[i][0] * n.x) << i;
+        EXPECT_EQ(mirrored.y, signs[i][1] * n.y) << i;
+        EXPECT_EQ(mirrored.z, n.z) << i;
     }
-    // The mirrored panel runs A, C, B.
-    EXPECT_EQ(mesh.faces[1].vertexB.x, 3.0F);
-    EXPECT_EQ(mesh.faces[1].vertexB.y, -1.0F);
 }
 
 TEST(bodyMesh, floatsByArchimedes) {
@@ -123,6 +90,26 @@ TEST(bodyMesh, floatsByArchimedes) {
     mesh.FroudeKrylovForces(-0.5, 2, F);
     // 1/2 m² about (11/3, 2), pushed up.
     expectNear(F, {0, 0, 1, 2, -11.0 / 3, 0}, 1e-5);
+}
+
+TEST(updateWetSurface, closesAHullWithItsWaterPlane) {
+    bodyMesh mesh;
+    fillMesh(mesh, ellipsoid(60, 30));
+    mesh.updateWetSurface(1.0 / 3);
+    // The area vectors of a closed surface add up to zero: what is missing is the water plane,
+    // pi a b (1 - (z/c)²).
+    v3<float> sum = {0, 0, std::acos(-1.0F) * 20 * 5 * (1 - 1.0F / 144)};
+    for (const triangle* panel : mesh.wetFaces) {
+        sum = sum + panel->areaVector;
+    }
+    EXPECT_NEAR(std::hypot(sum.x, sum.y), 0, 1e-3);
+    EXPECT_NEAR(std::fabs(sum.z), 0, 2.0);
+}
+
+TEST(updateWetSurface, takesNoNumberForDry) {
+    bodyMesh mesh;
+    fillMesh(mesh, {triangle({0, 0, NAN}, {2, 0, NAN}, {0, 3, NAN})});
+    EXPECT_TRUE(mesh.wetFaces.empty() && mesh.splitFaces.empty());
 }
 
 TEST(bodyMesh, spreadsMassOverItsPanels) {

@@ -4,21 +4,6 @@
 #include <cmath>
 #include <utility>
 
-std::vector<triangle> box(v3<float> low, v3<float> high) {
-    const auto corner = [&](int i) {
-        return v3<float>{i & 1 ? high.x : low.x, i & 2 ? high.y : low.y, i & 4 ? high.z : low.z};
-    };
-    // Four corners a side, counter-clockwise from outside; bits of a corner: x, y, z.
-    const int sides[6][4] = {{0, 2, 3, 1}, {4, 5, 7, 6}, {0, 1, 5, 4},
-                             {2, 6, 7, 3}, {0, 4, 6, 2}, {1, 3, 7, 5}};
-    std::vector<triangle> panels;
-    for (const auto& s : sides) {
-        panels.emplace_back(corner(s[0]), corner(s[1]), corner(s[2]));
-        panels.emplace_back(corner(s[0]), corner(s[2]), corner(s[3]));
-    }
-    return panels;
-}
-
 std::vector<triangle> ellipsoid(int around, int rings) {
     const double pi = std::acos(-1.0);
     const auto point = [&](int i, int j) {

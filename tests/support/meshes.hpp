@@ -2,11 +2,7 @@
 
 #include "mesh/bodyMesh.hpp"
 
-#include <string>
 #include <vector>
-
-/// Twelve panels of a closed box between two corners, normals outwards.
-std::vector<triangle> box(v3<float> low, v3<float> high);
 
 /// A closed ellipsoid hull with semi-axes 20, 5 and 4 m about the origin: `around` meridians with
 /// `rings` edges from pole to pole, 2 * around * (rings - 1) panels.

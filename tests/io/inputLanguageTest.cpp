@@ -72,37 +72,19 @@ TEST(readInputStream, limitsWhatBlocksAddToKeys) {
     EXPECT_EXIT_SAYING(read(text), 1, "kkkk..., add more than 67108864 characters");
 }
 
-TEST(inputMap, refusesAliasesThatFeedOnThemselves) {
-    EXPECT_EXIT_SAYING(readWithAliases("body1.x = 2\nbody10 = { source = body1 }"), 1,
-                       "The alias body10.source = body1 feeds on itself");
-    // Another alias, first in order, would copy it for ever.
-    EXPECT_EXIT_SAYING(readWithAliases("0b.source = a\nab b.source = a"), 1,
-                       "The alias ab b.source = a feeds on itself");
-    EXPECT_EXIT_SAYING(readWithAliases("a.source = b\nb1.source = a\nb.x = 1"), 1,
-                       "The alias a1.source = a feeds on itself");
-    EXPECT_EXIT_SAYING(
-        readWithAliases(".a.source = .source\n.source = ..\n.sourceb.x.source = .source"), 1,
-        " = .source feeds on itself");
-}
-
-/// A chain of aliases of which every pass resolves one link: 0000 takes from 0001, and so on.
-int linesOfChain(int links) {
-    inputMap chain;
-    const auto name = [](int i) { return std::to_string(10000 + i); };
-    for (int i = 0; i < links; ++i) {
-        chain.map[name(i) + ".source"] = name(i + 1);
-    }
-    chain.map[name(links) + ".x"] = "1";
-    const std::string output = outputOf([&] { chain.assignSources(); });
-    EXPECT_EQ(chain.map.count(name(0) + ".x"), links <= 502 ? 1U : 0U);
-    const bool isWarning = output == "Warning: 500 iterations of assignAlternatives in sorvikIO. "
-                                     "Something is off...\n";
-    return isWarning ? 1 : static_cast<int>(output.size());
-}
-
+// Every pass resolves one link: 10000 takes from 10001, and so on.
 TEST(inputMap, reportsExactlyFiveHundredPasses) {
     for (const int links : {499, 500, 501, 502, 503}) {
-        EXPECT_EQ(linesOfChain(links), links == 500 ? 1 : 0) << links;
+        inputMap chain;
+        for (int i = 10000; i < 10000 + links; ++i) {
+            chain.map[std::to_string(i) + ".source"] = std::to_string(i + 1);
+        }
+        chain.map[std::to_string(10000 + links) + ".x"] = "1";
+        EXPECT_EQ(outputOf([&] { chain.assignSources(); }),
+                  links != 500 ? ""
+                               : "Warning: 500 iterations of assignAlternatives in sorvikIO. "
+                                 "Something is off...\n");
+        EXPECT_EQ(chain.map.count("10000.x"), links <= 502 ? 1U : 0U) << links;
     }
 }
 

@@ -4,6 +4,7 @@
 #include <limits>
 #include <sstream>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -24,40 +25,22 @@ TEST(parse, takesTheFirstNumber) {
     EXPECT_EQ(map.read<std::vector<double>>("missing", {7}), (std::vector<double>{7}));
 }
 
-struct lineCase {
-    const char* text;
-    std::vector<double> asList; ///< as a value
-    std::vector<double> asLine; ///< as a row of a table
-};
-
 TEST(parse, endsAListAtTheFirstWord) {
-    const lineCase cases[] = {{"1 2 3", {1, 2, 3}, {1, 2, 3}},
-                              {" 1\t2  ", {1, 2}, {1, 2}},
-                              {"1 2 abc 4", {1, 2, 0}, {1, 2, 0}},
-                              {"abc", {0}, {0}},
-                              {"", {0}, {0}},
-                              {"-.5 1e2", {-0.5, 100}, {-0.5, 100}}};
-    for (const lineCase& c : cases) {
-        SCOPED_TRACE(c.text);
+    const std::pair<const char*, std::vector<double>> cases[] = {
+        {"1 2 3", {1, 2, 3}}, {" 1\t2  ", {1, 2}}, {"1 2 abc 4", {1, 2, 0}},
+        {"abc", {0}},         {"", {0}},           {"-.5 1e2", {-0.5, 100}}};
+    for (const auto& [text, numbers] : cases) {
         std::vector<double> list;
-        sorvikIO::parse<double>(c.text, list);
-        EXPECT_EQ(list, c.asList);
         std::vector<double> row;
-        EXPECT_EQ(sorvikIO::readLine<double>(c.text, row), static_cast<int>(c.asLine.size()));
-        EXPECT_EQ(row, c.asLine);
+        sorvikIO::parse<double>(text, list);
+        EXPECT_EQ(sorvikIO::readLine<double>(text, row), static_cast<int>(numbers.size())) << text;
+        EXPECT_EQ(list, numbers) << text;
+        EXPECT_EQ(row, numbers) << text;
     }
 }
 
-struct tableCase {
-    const char* what;
-    const char* text;
-    int skip;
-    int cols;
-    std::vector<double> data;
-};
-
 TEST(readData, readsRowsOfOneLength) {
-    const tableCase cases[] = {
+    const std::tuple<const char*, const char*, int, int, std::vector<double>> cases[] = {
         {"two columns", "1 2\n3 4\n", 0, 2, {1, 2, 3, 4}},
         {"no end of line", "1 2\n3 4", 0, 2, {1, 2, 3, 4}},
         {"one row", "1 2 3", 0, 3, {1, 2, 3}},
@@ -69,12 +52,11 @@ TEST(readData, readsRowsOfOneLength) {
         {"another delimiter", "1; 2; 3\n", 0, 3, {}},
         {"nothing at all", "", 0, 1, {0}},
     };
-    for (const tableCase& c : cases) {
-        SCOPED_TRACE(c.what);
-        std::istringstream in(c.text);
+    for (const auto& [what, text, skip, columns, expected] : cases) {
+        std::istringstream in(text);
         std::vector<double> data;
-        EXPECT_EQ(sorvikIO::readData<double>(in, data, c.skip), c.cols);
-        EXPECT_EQ(data, c.data);
+        EXPECT_EQ(sorvikIO::readData<double>(in, data, skip), columns) << what;
+        EXPECT_EQ(data, expected) << what;
     }
 }
 

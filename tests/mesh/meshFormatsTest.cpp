@@ -3,22 +3,10 @@
 #include "support/meshes.hpp"
 #include "support/program.hpp"
 
-#include <cstring>
 #include <string>
 #include <vector>
 
 namespace {
-
-/// Corners and normals of all panels, for comparison.
-std::vector<float> numbersOf(bodyMesh const& mesh) {
-    std::vector<float> numbers;
-    for (triangle const& t : mesh.faces) {
-        for (v3<float> const& v : {t.normal, t.vertexA, t.vertexB, t.vertexC}) {
-            numbers.insert(numbers.end(), {v.x, v.y, v.z});
-        }
-    }
-    return numbers;
-}
 
 const std::string asciiFacet =
     "\tfacet normal -0 0.447214 0.894427\n\t\touter loop\n"
@@ -41,38 +29,6 @@ TEST(meshFormats, writeKnownFiles) {
     // B.x = 2 is 0x40000000; the attribute is 48.
     EXPECT_EQ(binary.substr(84 + 24, 4), std::string("\0\0\0\x40", 4));
     EXPECT_EQ(binary.substr(132), std::string("0\0", 2));
-}
-
-TEST(meshFormats, readBackWhatTheyWrite) {
-    const temporaryFolder folder;
-    bodyMesh hull;
-    fillMesh(hull, ellipsoid(12, 7));
-    hull.stl_print(folder.path("b.stl"), false);
-    bodyMesh binary;
-    EXPECT_TRUE(binary.read(folder.path("b.stl")));
-    EXPECT_EQ(binary.nFaces, 144);
-    EXPECT_EQ(numbersOf(binary), numbersOf(hull));
-
-    hull.stl_print_ascii(folder.path("a.stl"), false);
-    bodyMesh ascii;
-    std::string output = outputOf([&] { EXPECT_TRUE(ascii.read(folder.path("a.stl"))); });
-    EXPECT_EQ(output, "mesh format is: .stl\n READING STL FILE " + folder.path("a.stl") +
-                          " IN ASCII FORMAT \n Read 144 triangles in mesh\n");
-    ascii.stl_print_ascii(folder.path("a2.stl"), false);
-    EXPECT_EQ(readFile(folder.path("a2.stl")), readFile(folder.path("a.stl")));
-
-    // Wholly submerged, so that the file holds the hull; its closing line is one panel more.
-    hull.updateWetSurface(10);
-    EXPECT_EQ(hull.nemoh_print(folder.path("n.dat"), true), 12 * 6 + 2);
-    bodyMesh nemoh;
-    EXPECT_EQ(nemoh.nemoh_read(folder.path("n.dat")), 145);
-    EXPECT_EQ(nemoh.faces.back().area, 0);
-    EXPECT_NEAR(nemoh.surfaceArea(), hull.surfaceArea(), 1e-3);
-    int nodes = 1;
-    int panels = 2;
-    EXPECT_EQ(bodyMesh::nemoh_readMeshInfo(folder.path("n.dat"), nodes, panels), 0);
-    EXPECT_EQ(nodes, 1 + 74);
-    EXPECT_EQ(panels, 2 + 144);
 }
 
 std::string binaryStl(const std::string& count, std::size_t records) {

@@ -1,15 +1,6 @@
-#include "numerics/matrixOp.hpp"
-
 #include "numerics/numbers.hpp"
 
-#include <cmath>
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 namespace {
-
-using testing::ElementsAre;
 
 const double pi = std::acos(-1.0);
 

@@ -1,16 +1,8 @@
-#include "numerics/matrixOp.hpp"
-
 #include "numerics/numbers.hpp"
-
-#include <cmath>
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 
 using namespace matrixOp;
-using testing::ElementsAre;
 
 TEST(vectorKernels, workOnTheFirstEntriesAndNoOthers) {
     const double x[] = {1, 2, 3, 4, 5, 6}, y[] = {2, 4, 8, 16, 32, 64};

@@ -1,16 +1,7 @@
-#include "numerics/matrixOp.hpp"
-
 #include "numerics/numbers.hpp"
 #include "support/program.hpp"
 
-#include <cmath>
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 namespace {
-
-using testing::ElementsAre;
 
 /// Largest magnitude in A x - b.
 double residual(int n, const numbers& A, const numbers& x, numbers b) {
@@ -79,8 +70,7 @@ TEST(mMatrix, viewsItsStorageRowByRow) {
 }
 
 /// The upper left part of a matrix with rows of four.
-class corner : public mMatrix {
-public:
+struct corner : mMatrix {
     using mMatrix::mMatrix;
     double* v(int i, int j) override { return data + std::ptrdiff_t{4} * i + j; }
     const double* v(int i, int j) const override { return data + std::ptrdiff_t{4} * i + j; }

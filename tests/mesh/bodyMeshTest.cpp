@@ -4,7 +4,6 @@
 #include "support/program.hpp"
 
 #include <cmath>
-#include <vector>
 
 namespace {
 

@@ -3,9 +3,6 @@
 #include "support/meshes.hpp"
 #include "support/program.hpp"
 
-#include <string>
-#include <vector>
-
 namespace {
 
 const std::string asciiFacet =

@@ -5,7 +5,6 @@
 #include <limits>
 #include <numeric>
 #include <random>
-#include <vector>
 
 #include <gtest/gtest.h>
 

@@ -8,7 +8,6 @@
 
 #include <cmath>
 #include <memory>
-#include <vector>
 
 namespace {
 

@@ -5,9 +5,11 @@
 #include <iterator>
 #include <sstream>
 
-// Runs of the program, told by text files in data/cli: a case a paragraph, its parts begun by
+// Runs of the program, told by text files in data/cli and data/fullDisk: a case a paragraph, its
+// parts begun by
 //     == WHAT           a new case in a new folder
 //     < FILE            an input file that holds the lines below
+//     @ FILE            a file on a disk that is full
 //     $ ARGUMENTS       a run of the program
 //     > FILE            what the file holds then; "output" is what the run printed
 //     ~ FILE            lines that the file holds somewhere
@@ -21,7 +23,7 @@ std::string contentUntilMark(std::istream& in) {
     static const std::string usage = readFile(SORVIK_TEST_DATA "/help.txt");
     std::string content;
     std::string line;
-    while (std::string("=<$>~!").find(static_cast<char>(in.peek())) == std::string::npos &&
+    while (std::string("=<@$>~!").find(static_cast<char>(in.peek())) == std::string::npos &&
            std::getline(in, line)) {
         content += line == "{usage}" ? usage : line + "\n";
     }
@@ -41,6 +43,9 @@ void runCase(std::istream& in) {
         } else if (mark == "$") {
             std::istringstream words(name);
             run = runProgram({std::istream_iterator<std::string>(words), {}}, folder.path());
+        } else if (mark == "@") {
+            std::filesystem::remove(folder.path(name));
+            std::filesystem::create_symlink("/dev/full", folder.path(name));
         } else if (mark == "<") {
             writeFile(folder.path(name), contentUntilMark(in));
         } else {
@@ -55,8 +60,8 @@ void runCase(std::istream& in) {
     EXPECT_EQ(run.errors, "");
 }
 
-TEST(program, runsAsTold) {
-    for (const auto& file : std::filesystem::directory_iterator(SORVIK_TEST_DATA "/cli")) {
+void runCases(const std::string& files) {
+    for (const auto& file : std::filesystem::directory_iterator(SORVIK_TEST_DATA + files)) {
         std::istringstream in(readFile(file.path().string()));
         for (std::string what; std::getline(in, what);) {
             SCOPED_TRACE(file.path().filename().string() + " " + what);
@@ -65,39 +70,16 @@ TEST(program, runsAsTold) {
     }
 }
 
+TEST(program, runsAsTold) {
+    runCases("/cli");
+}
+
+TEST(program, endsAsToldOnFullDisks) {
+    runCases("/fullDisk");
+}
+
 TEST(program, endsWithTheLibrarysMessageForShortMeshNames) {
     EXPECT_EQ(runProgram({"-meshConvert", "a", "-toJSON"}).status, 128 + 6);
-}
-
-/// Runs the task on case.m, one of its files being on a disk that is full.
-void expectFailure(const temporaryFolder& folder, const std::string& full,
-                   std::vector<std::string> task, const std::string& message) {
-    std::filesystem::create_directories(folder.path("out"));
-    std::filesystem::remove(folder.path(full));
-    std::filesystem::create_symlink("/dev/full", folder.path(full));
-    task.insert(task.end(), {"-f", "case.m", "-o", "out"});
-    const programRun run = runProgram(task, folder.path());
-    EXPECT_EQ(run.status, 1);
-    EXPECT_THAT(run.output, testing::HasSubstr(message));
-    EXPECT_THAT(run.output, testing::Not(testing::HasSubstr("printed to")));
-    std::filesystem::remove(folder.path(full));
-}
-
-TEST(nemohTask, saysWhatItCouldNotWrite) {
-    const temporaryFolder folder;
-    writeFile(folder.path("a.dat"), "2 0\n0 0. 0. 0.\n0 0 0 0\n");
-    writeFile(folder.path("case.m"),
-              "bem.body = 1\nbem.output = out\nhydroBody1.bemInput.meshName = a.dat\n");
-    expectFailure(folder, "out/Nemoh.cal", {"-nemoh"}, "or open out/Nemoh.cal for some reason.\n");
-}
-
-TEST(waveElevation, claimsOnlyWhatItCouldWrite) {
-    const temporaryFolder folder;
-    writeFile(folder.path("case.m"), "simulation.time.end = 0\n");
-    for (const std::string name : {"out/waveDomain.dat", "out/waveElevation.dat"}) {
-        expectFailure(folder, name, {"-waveElevation", "-domain", "1", "1", "1", "1"},
-                      "Cannot write the file " + name);
-    }
 }
 
 } // namespace

@@ -70,6 +70,7 @@ TEST(meshFormats, tellBrokenTextFiles) {
     const std::string nem = "2 0\n1 0 0 -1\n0 0. 0. 0.\n1 1 1 1\n";
     EXPECT_TRUE(good("a.stl", asciiFile) && good("a.gdf", gdf + "-1") && good("a.nem", nem));
     EXPECT_FALSE(good("a.stl", asciiFile.substr(0, 90)));
+    EXPECT_EQ(bodyMesh::chooseFrmt("a.nem"), 2);
     EXPECT_FALSE(good("a.gdf", gdf) || good("a.gdf", "") || good("a.nem", ""));
 }
 

@@ -14,16 +14,6 @@ namespace {
 constexpr double g = 9.81;
 using values = std::vector<double>;
 
-TEST(waveModel, rampsUpFromRest) {
-    const double cases[][3] = {// ramp time and instant [s], factor
-                               {10, 0, 0},   {10, 5, 0.5}, {10, 10, 1}, {10, 99, 1},
-                               {10, -10, 1}, {0, 0, 0},    {0, 1e-9, 1}};
-    for (const auto& [rampTime, t, factor] : cases) {
-        const std::string input = "environment.wave.rampTime = " + std::to_string(rampTime) + "\n";
-        EXPECT_DOUBLE_EQ(waveModel(configOf(input)).rampFactorAt(t), factor) << input << t;
-    }
-}
-
 TEST(waveModel, isHydrostaticInStillWater) {
     const reader config = configOf("environment.ground.level = -40\n");
     globals::set(3, {0, 0, -g}, 1025, 1.2, 3);

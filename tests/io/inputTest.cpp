@@ -25,6 +25,7 @@ TEST(reader, readsWhatItMust) {
     EXPECT_EQ(config.mustRead<std::string>("other", "name"), "x");
     EXPECT_EQ(config.mustRead<std::vector<double>>("list"), (std::vector<double>{1, 2}));
     EXPECT_EXIT_SAYING(config.mustRead<std::string>("a.b"), 1, "Cannot find value of a.b in input");
+    EXPECT_EXIT_SAYING(reader::fileExist("missing", true), 1, "Cannot find or open file: missing");
 }
 
 TEST(toJSON, limitsTheTextItWrites) {

@@ -19,6 +19,11 @@ TEST(meshFormats, writeKnownFiles) {
     EXPECT_EQ(readFile(folder.path("a.stl")), asciiFile);
     EXPECT_EQ(outputOf([&] { EXPECT_EQ(mesh.nemoh_print(folder.path("a.dat"), false), 3); }),
               " Warning: Nemoh mesh only supports wetFaces to be printed.\n");
+    int nodes = 1, panels = 2;
+    EXPECT_EQ(bodyMesh::nemoh_readMeshInfo(folder.path("a.dat"), nodes, panels), 0);
+    EXPECT_EQ(std::pair(nodes, panels), std::pair(1 + 3, 2 + 1));
+    mesh.gdf_print(folder.path("a.gdf"), true, 2, 9.81);
+    EXPECT_THAT(readFile(folder.path("a.gdf")), testing::HasSubstr("\n2 9.81\t ULEN GRAV\n"));
     mesh.stl_print(folder.path("b.stl"), true);
     const std::string binary = readFile(folder.path("b.stl"));
     ASSERT_EQ(binary.size(), 134U);

@@ -1,13 +1,10 @@
 #include "app/processGuards.hpp"
 
+#include "io/platform.hpp"
 #include "io/printer.hpp"
 
 #include <iostream>
 #include <new>
-
-#ifndef _WIN32
-#include <fcntl.h>
-#endif
 
 namespace {
 
@@ -17,20 +14,9 @@ namespace {
     printer::fatalError("There is not enough memory for this task.");
 }
 
-void holdStandardStreams() {
-#ifndef _WIN32
-    for (const int stream : {0, 1, 2}) {
-        // A file that is opened gets the lowest free number.
-        if (fcntl(stream, F_GETFD) == -1) {
-            open("/dev/null", O_RDWR);
-        }
-    }
-#endif
-}
-
 } // namespace
 
 processGuards::processGuards() {
     std::set_new_handler(endForMemory);
-    holdStandardStreams();
+    platform::holdStandardStreams();
 }

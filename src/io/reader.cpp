@@ -9,8 +9,6 @@
 #include <initializer_list>
 #include <iostream>
 
-#include <sys/stat.h>
-
 int reader::binaryOutput = 1;
 
 namespace {
@@ -158,12 +156,11 @@ bool reader::fileExist(const std::string& name, bool mustExist) {
 }
 
 void reader::makeFolder(const std::string& path) {
-    constexpr mode_t anyone = 0777;
-    mkdir(path.c_str(), anyone);
+    std::error_code ignored;
+    std::filesystem::create_directory(path, ignored);
 
     // A file of the probe's name may be the user's: it is opened without changing it.
     const std::string probe = path + "/test.txt";
-    std::error_code ignored;
     const bool wasThere = std::filesystem::exists(std::filesystem::symlink_status(probe, ignored));
     if (!std::ofstream(probe, std::ios::app).is_open()) {
         printer::fatalError("The folder " + path +

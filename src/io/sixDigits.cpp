@@ -125,7 +125,7 @@ constexpr unsigned countShift = 56;
 /// without trailing zeros.
 constexpr std::array<std::uint64_t, 1000> makeLastTriples() {
     std::array<std::uint64_t, 1000> last{};
-    for (std::uint64_t i = 0; i < last.size(); ++i) {
+    for (std::size_t i = 0; i < last.size(); ++i) {
         const std::uint64_t count = i % 10 != 0 ? 3 : i % 100 != 0 ? 2 : i != 0 ? 1 : 0;
         last[i] = std::uint64_t(triples[i]) << 24 | count << countShift;
     }
@@ -139,9 +139,9 @@ inline char* layOut(char* out, std::uint32_t number, const decade& d) {
     const std::uint32_t high = number / 1000;
     const std::uint64_t last = lastTriples[number % 1000];
     const std::uint64_t digits = triples[high] | last;
-    std::size_t count = (last >> countShift) + 3;
+    auto count = static_cast<std::size_t>(last >> countShift) + 3;
     if (count == 3) {
-        count = lastTriples[high] >> countShift;
+        count = static_cast<std::size_t>(lastTriples[high] >> countShift);
     }
     std::memcpy(out, d.prefix, sizeof d.prefix);
     littleEndian::store(out + d.prefixLength,
@@ -156,7 +156,7 @@ inline char* layOut(char* out, std::uint32_t number, const decade& d) {
     const double magnitude = std::fabs(value);
     std::uint64_t bits = 0;
     std::memcpy(&bits, &magnitude, sizeof bits);
-    const std::uint64_t index = (bits >> mantissaBits) - firstBiased;
+    const auto index = static_cast<std::size_t>((bits >> mantissaBits) - firstBiased);
     if (index >= binadeCount) {
         return nullptr;
     }

@@ -23,7 +23,7 @@ std::ifstream openText(const std::string& name) {
     in.imbue(std::locale::classic());
     // A folder of that name would open too.
     if (reader::fileExist(name, false)) {
-        in.open(name);
+        in.open(name, std::ios::binary);
     }
     return in;
 }

@@ -73,7 +73,7 @@ public:
         for (const char* folder : {"/Results/", "/results/"}) {
             file = (project + folder).append(name);
             if (reader::fileExist(file, false)) {
-                in.open(file);
+                in.open(file, std::ios::binary);
                 return;
             }
         }

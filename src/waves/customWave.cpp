@@ -68,7 +68,7 @@ void customWave::readFile(const std::string& name, bool useRadians) {
     if (!reader::fileExist(name, false)) {
         printer::fatalError("Cannot read the wave file " + name + " of " + prefix + "file");
     }
-    std::ifstream in(name);
+    std::ifstream in(name, std::ios::binary);
     double direction = 0.0;
     while (in >> direction >> std::ws) {
         const auto amplitudes = readRow(in, name, "amplitudes");

@@ -6,7 +6,7 @@
 #include <fstream>
 
 int readNumericTable(const std::string& fileName, std::vector<double>& values) {
-    std::ifstream in(fileName);
+    std::ifstream in(fileName, std::ios::binary);
     if (!in.is_open() || !reader::fileExist(fileName, false)) {
         return 0;
     }

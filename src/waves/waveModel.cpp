@@ -1,5 +1,6 @@
 #include "waves/waveModel.hpp"
 
+#include "io/platform.hpp"
 #include "io/printer.hpp"
 #include "io/reader.hpp"
 #include "numerics/matrixOp.hpp"
@@ -183,7 +184,7 @@ namespace {
 
 int freshSeed() {
     try {
-        std::random_device device("/dev/urandom");
+        std::random_device device(platform::randomSource);
         // -1 would not reproduce the phases.
         constexpr unsigned askForFresh = 0xFFFFFFFF;
         unsigned seed = askForFresh;
@@ -192,9 +193,9 @@ int freshSeed() {
         }
         return static_cast<int>(seed);
     } catch (const std::exception& error) {
-        printer::fatalError(
-            std::string("Cannot draw a seed for random phases from /dev/urandom: ") + error.what() +
-            ". Give one as environment.wave.seed.");
+        printer::fatalError(std::string("Cannot draw a seed for random phases from ") +
+                            platform::randomSource + ": " + error.what() +
+                            ". Give one as environment.wave.seed.");
     }
 }
 

@@ -1,18 +1,18 @@
 #include "support/files.hpp"
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <sstream>
 
 #include <gtest/gtest.h>
 
 temporaryFolder::temporaryFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "sorvikTest.XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) {
-        ADD_FAILURE() << "cannot make " << name;
+    const std::string name = "sorvikTest." + std::to_string(std::random_device()());
+    folder = (std::filesystem::temp_directory_path() / name).generic_string();
+    if (!std::filesystem::create_directory(folder)) {
+        ADD_FAILURE() << "cannot make " << folder;
     }
-    folder = name;
 }
 
 temporaryFolder::~temporaryFolder() {

@@ -3,32 +3,40 @@
 #include "support/files.hpp"
 
 #include <cstdlib>
+#include <filesystem>
 #include <iostream>
 
+#ifndef _WIN32
 #include <sys/wait.h>
+#endif
 
 namespace {
 
 std::string quoted(const std::string& word) {
-    std::string safe = "'";
-    for (const char c : word) {
-        safe += c == '\'' ? std::string("'\\''") : std::string(1, c);
-    }
-    return safe + "'";
+    return '"' + word + '"';
 }
 
 } // namespace
 
+int statusOf(int result) {
+#ifdef _WIN32
+    return result & 0xFF;
+#else
+    return WIFEXITED(result) ? WEXITSTATUS(result) : 128 + WTERMSIG(result);
+#endif
+}
+
 programRun runProgram(const std::vector<std::string>& arguments, const std::string& folder) {
     const temporaryFolder streams;
-    std::string command = folder.empty() ? "" : "cd " + quoted(folder) + " && ";
-    command += quoted(SORVIK_PROGRAM);
+    std::string command = SORVIK_PROGRAM;
     for (const std::string& argument : arguments) {
         command += " " + quoted(argument);
     }
     command += " >" + quoted(streams.path("out")) + " 2>" + quoted(streams.path("err"));
-    const int result = std::system(command.c_str());
-    const int status = WIFEXITED(result) ? WEXITSTATUS(result) : 128 + WTERMSIG(result);
+    const auto before = std::filesystem::current_path();
+    std::filesystem::current_path(folder.empty() ? before : std::filesystem::path(folder));
+    const int status = statusOf(std::system(command.c_str()));
+    std::filesystem::current_path(before);
     return {status, readFile(streams.path("out")), readFile(streams.path("err"))};
 }
 

@@ -8,12 +8,13 @@
 
 /// How a run of the program ended.
 struct programRun {
-    int status;         ///< exit status, 128 + n for signal n
+    int status;         ///< as `statusOf` gives it
     std::string output; ///< standard output
     std::string errors; ///< standard error, to which the program never writes
 };
 
-/// Runs sorvikPre in `folder` (the current one without a name).
+/// Runs sorvikPre in `folder` (the current one without a name). Arguments hold nothing that is
+/// special to a shell between double quotes.
 programRun runProgram(const std::vector<std::string>& arguments, const std::string& folder = "");
 
 /// Runs `statement` in a process of its own and expects it to end with `status` and with an output
@@ -24,7 +25,10 @@ programRun runProgram(const std::vector<std::string>& arguments, const std::stri
             showOutputAsError();                                                                   \
             statement;                                                                             \
         },                                                                                         \
-        testing::ExitedWithCode(status), testing::HasSubstr(text))
+        [&](int result) { return statusOf(result) == (status); }, testing::HasSubstr(text))
+
+/// The status of a process that ended with `result`, as the system gives it: 128 + n for signal n.
+int statusOf(int result);
 
 /// Sends standard output to standard error, where death tests look.
 void showOutputAsError();

@@ -1,6 +1,7 @@
 #include "support/randomSea.hpp"
 
 #include "io/reader.hpp"
+#include "support/numbers.hpp"
 
 #include <ostream>
 #include <string>
@@ -76,9 +77,9 @@ void writePlainTable(waveModel& model, const std::vector<double>& x, const std::
     for (std::int64_t i = 0; i < instants.count(); ++i) {
         model.setTime(instants[i]);
         model.eta(static_cast<int>(x.size()), x.data(), y.data(), elevation.data());
-        out << instants[i];
+        out << streamText(instants[i]);
         for (const double value : elevation) {
-            out << '\t' << value;
+            out << '\t' << streamText(value);
         }
         out << '\n';
     }

@@ -1,0 +1,66 @@
+#include "io/platform.hpp"
+
+#include <cstdint>
+#include <initializer_list>
+
+#ifdef _WIN32
+
+#include <cstdio>
+
+#include <fcntl.h>
+#include <io.h>
+
+const char* const platform::randomSource = "default";
+
+bool platform::hasMemory(std::size_t /*bytes*/) {
+    return true; // The system promises only what it has: an allocation tells.
+}
+
+void platform::useLargePages(const void* /*begin*/, std::size_t /*bytes*/) {}
+
+void platform::holdStandardStreams() {
+    _setmode(_fileno(stdout), _O_BINARY);
+}
+
+#else
+
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <unistd.h>
+
+const char* const platform::randomSource = "/dev/urandom";
+
+bool platform::hasMemory(std::size_t bytes) {
+    const long pages = sysconf(_SC_PHYS_PAGES);
+    const long pageSize = sysconf(_SC_PAGESIZE);
+    return pages <= 0 || pageSize <= 0 ||
+           bytes / static_cast<std::size_t>(pageSize) < static_cast<std::size_t>(pages);
+}
+
+void platform::useLargePages(const void* begin, std::size_t bytes) {
+#ifdef MADV_HUGEPAGE
+    const long pageSize = sysconf(_SC_PAGESIZE);
+    if (pageSize <= 0 || bytes < static_cast<std::size_t>(pageSize)) {
+        return;
+    }
+    // The system asks for a whole number of pages.
+    const auto page = static_cast<std::size_t>(pageSize);
+    const std::size_t lead = page - reinterpret_cast<std::uintptr_t>(begin) % page;
+    char* first = const_cast<char*>(static_cast<const char*>(begin)) + lead;
+    madvise(first, (bytes - lead) / page * page, MADV_HUGEPAGE);
+#else
+    static_cast<void>(begin);
+    static_cast<void>(bytes);
+#endif
+}
+
+void platform::holdStandardStreams() {
+    for (const int stream : {0, 1, 2}) {
+        // A file that is opened gets the lowest free number.
+        if (fcntl(stream, F_GETFD) == -1) {
+            open("/dev/null", O_RDWR);
+        }
+    }
+}
+
+#endif

@@ -2,7 +2,16 @@
 
 #include "numerics/matrixOp.hpp"
 
+#include <limits>
+
 namespace {
+
+/// A component of the normal. Without an area it is not a number, whose sign is written into files
+/// but left to the machine by the language: here it is minus everywhere.
+float normalised(float component, float norm) {
+    const bool isUndefined = component == 0.0F && norm == 0.0F;
+    return isUndefined ? -std::numeric_limits<float>::quiet_NaN() : component / norm;
+}
 
 v3<float> toV3(float const* p) {
     return {p[0], p[1], p[2]};
@@ -30,7 +39,8 @@ triangle::triangle(v3<float> const& A, v3<float> const& B, v3<float> const& C)
     areaVector = cross(B - A, 0.5F * (C - A));
     const float norm = length(areaVector);
     area = static_cast<double>(norm);
-    normal = areaVector / norm;
+    normal = {normalised(areaVector.x, norm), normalised(areaVector.y, norm),
+              normalised(areaVector.z, norm)};
     setCentroid();
     computeOP();
 }

@@ -87,6 +87,23 @@ TEST(inputMap, reportsExactlyFiveHundredPasses) {
     }
 }
 
+TEST(sorvikIO, readsEntriesAndAliasesOneByOne) {
+    classicText in("a = 1\nno entry\nb = {x = 2}\nc = 3");
+    std::string found;
+    std::string key;
+    std::string value;
+    while (const int kind = sorvikIO::readNextEntry(in, key, value, '=')) {
+        found += std::to_string(kind) + key + '=' + value + ';';
+    }
+    EXPECT_EQ(found, "1a=1;2b=x = 2;1c=3;");
+    inputMap map;
+    map.map = {{"body1.x", "1"}, {"a.source", "body1"}, {"body2.source", "a"}, {"bodyType", "t"}};
+    EXPECT_TRUE(sorvikIO::assignAlternatives(map.map));
+    EXPECT_FALSE(sorvikIO::addAlternativeKey(map.map, "body2", "a"));
+    EXPECT_EQ(map.map["body2.x"], "1");
+    EXPECT_EQ(map.getKeys("body"), (std::vector<std::string>{"body1", "body2"}));
+}
+
 TEST(inputMap, setsTextWithAssignmentsAsEntries) {
     inputMap map;
     map.set("a", "1");

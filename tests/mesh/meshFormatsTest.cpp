@@ -54,7 +54,11 @@ TEST(meshFormats, readBinaryStlAsFarAsItGoes) {
         ASSERT_EQ(mesh.faces.size(), 3U);
         EXPECT_EQ(mesh.faces[2].vertexA.x, 0.5F);
     }
-    bodyMesh mesh;
+    bodyMesh mesh; // of several blocks of records
+    EXPECT_FALSE(mesh.stl_read(writeFile(file, binaryStl(std::string("\0\xc0\0\0", 4), 1))));
+    EXPECT_EQ(mesh.faces.at(49151).vertexA.x, 0.5F);
+    mesh.stl_print(file, false);
+    EXPECT_EQ(readFile(file).size(), 84U + 49152 * 50);
     EXPECT_TRUE(mesh.stl_read(writeFile(file, binaryStl(std::string(4, '\0'), 0))));
     EXPECT_FALSE(mesh.stl_read(writeFile(file, "")));
     EXPECT_EQ(mesh.nFaces, 0);

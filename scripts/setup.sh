@@ -47,3 +47,22 @@ build() {
     fi
     rm -f "$log"
 }
+
+# folder_of PRESET: where it is built.
+folder_of() {
+    case $1 in
+        release | program) echo build ;;
+        *) echo "build-$1" ;;
+    esac
+}
+
+# program_of PRESET: leaves in `program` the command that runs the program of that build.
+program_of() {
+    local folder file
+    folder=$PWD/$(folder_of "$1")
+    IFS=';' read -ra program < <(sed -n 's/^CMAKE_CROSSCOMPILING_EMULATOR:[^=]*=//p' \
+        "$folder/CMakeCache.txt") || true
+    file=$folder/sorvikPre
+    [ -e "$file" ] || file=$file.exe
+    program+=("$file")
+}

@@ -93,7 +93,7 @@ TEST(sorvikIO, readsEntriesAndAliasesOneByOne) {
     std::string key;
     std::string value;
     while (const int kind = sorvikIO::readNextEntry(in, key, value, '=')) {
-        found += std::to_string(kind) + key + '=' + value + ';';
+        found.append(std::to_string(kind)).append(key + '=').append(value + ';');
     }
     EXPECT_EQ(found, "1a=1;2b=x = 2;1c=3;");
     inputMap map;

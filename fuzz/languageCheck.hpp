@@ -15,46 +15,6 @@ inline entries readText(const std::string& text, char assign) {
     return sorvikIO::readInputStream(in, assign, '.');
 }
 
-/// The same line by line, without looking ahead in the text.
-inline entries readPlainly(std::istream&& in, char assign) {
-    entries map;
-    for (std::string key; in.good();) {
-        const std::streamoff start = in.tellg();
-        std::getline(in, key);
-        sorvikIO::stripFromComment(key);
-        const std::size_t split = key.find(assign);
-        if (split == std::string::npos) {
-            continue;
-        }
-        std::string value = key.substr(split + 1);
-        key.erase(split);
-        sorvikIO::strip(key);
-        sorvikIO::strip(value);
-        sorvikIO::stripFromUnwanted(key);
-        std::size_t nested = std::string::npos;
-        if (!value.empty() && std::string("({[<'\"").find(value[0]) != std::string::npos) {
-            in.clear();
-            in.seekg(start + static_cast<std::streamoff>(split) + 1);
-            value = sorvikIO::extractBlock(in);
-            nested = value.find(assign) == value.find(":\\") ? nested : value.find(assign);
-        } else {
-            sorvikIO::stripFromUnwanted(value);
-        }
-        if (value.empty() || map.count(key) != 0) {
-            continue;
-        }
-        if (nested != std::string::npos) {
-            for (const auto& [name, text] : readPlainly(std::istringstream(value), assign)) {
-                map.emplace((key + ".").append(name), text);
-            }
-            continue;
-        }
-        sorvikIO::stripFromUnwanted(value);
-        map.emplace(key, value);
-    }
-    return map;
-}
-
 /// The words of a value, a blank behind each.
 inline std::string wordsOf(const std::string& value) {
     std::string words;
@@ -78,11 +38,10 @@ inline bool isPlain(const std::string& key, const std::string& value) {
            key.find(" .") == std::string::npos && key.find(". ") == std::string::npos;
 }
 
-/// Compares the map of a text with a plain reading, and its words with those of its JSON text.
-/// There a plain entry hides the block of its name, and one without words is none.
+/// Compares the words of a text's map with those of its JSON text. There a plain entry hides the
+/// block of its name, and one without words is none.
 inline void checkLanguage(const std::string& text, char assign) {
     const entries map = readText(text, assign);
-    check(map == readPlainly(std::istringstream(text), assign));
     const std::string json = sorvikIO::toJSON(map, 0);
     entries expected;
     for (const auto& [key, value] : map) {

@@ -3,6 +3,8 @@
 #include "mesh/bodyMesh.hpp"
 #include "target.hpp"
 
+#include <vector>
+
 /// Cuts the mesh at a height: wet, dry, split and dropped panels are all panels.
 inline void checkCut(bodyMesh& mesh, double level) {
     output().str("");
@@ -34,9 +36,55 @@ inline void checkCut(bodyMesh& mesh, double level) {
     check(output().str() == counts.str());
 }
 
+inline std::string textOf(v3<float> const& p) {
+    std::ostringstream out;
+    out << p.x << ' ' << p.y << ' ' << p.z << '\n';
+    return out.str();
+}
+
+/// Nodes and the corners of panels, three each, counted from 1.
+struct nodeList {
+    std::vector<v3<float>> nodes;
+    std::vector<std::size_t> corners;
+};
+
+/// Writes the wetted surface for Nemoh and compares it with a plain scan for nodes: every corner
+/// against all nodes of the panels before.
+inline nodeList checkNodes(bodyMesh const& mesh) {
+    nodeList list;
+    auto& [nodes, corners] = list;
+    for (triangle const* panel : mesh.wetFaces) {
+        const std::size_t known = nodes.size();
+        for (v3<float> const& p : {panel->vertexA, panel->vertexB, panel->vertexC}) {
+            std::size_t node = 0;
+            while (node < known && !(1e-5 > static_cast<double>(length(p - nodes[node])))) {
+                ++node;
+            }
+            if (node == known) {
+                nodes.push_back(p);
+                node = nodes.size() - 1;
+            }
+            corners.push_back(node + 1);
+        }
+    }
+    std::string expected = "2 0\n";
+    for (std::size_t i = 0; i < nodes.size(); ++i) {
+        expected += std::to_string(i + 1) + ' ' + textOf(nodes[i]);
+    }
+    expected += "0 0. 0. 0.\n";
+    for (std::size_t i = 0; i < corners.size(); ++i) {
+        expected += std::to_string(corners[i]) + ' ';
+        expected += i % 3 == 2 ? std::to_string(corners[i - 2]) + '\n' : "";
+    }
+    check(mesh.nemoh_print(pathOf("1.dat"), true) == static_cast<int>(nodes.size()));
+    check(contentOf(pathOf("1.dat")) == expected + "0 0 0 0\n");
+    return list;
+}
+
 /// Cuts through the middle of the first panel and at z = 0.
-inline void checkCuts(bodyMesh& mesh) {
+inline nodeList checkCuts(bodyMesh& mesh) {
     check(mesh.faces.size() == static_cast<std::size_t>(mesh.nFaces));
     checkCut(mesh, mesh.faces.empty() ? 1 : static_cast<double>(mesh.faces[0].centroid.z));
     checkCut(mesh, 0);
+    return checkNodes(mesh);
 }

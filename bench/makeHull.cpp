@@ -2,6 +2,7 @@
 //     makeHull FACETS FILE [ascii]
 // The format is that of the file name; "ascii" asks for the text form of STL.
 
+#include "ellipsoid.hpp"
 #include "support/meshes.hpp"
 
 #include <cstdlib>

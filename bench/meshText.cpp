@@ -3,6 +3,7 @@
 // count.
 //     meshText [--benchmark_repetitions=5]
 
+#include "ellipsoid.hpp"
 #include "mesh/bodyMesh.hpp"
 #include "mesh/nodeMatcher.hpp"
 #include "support/meshes.hpp"

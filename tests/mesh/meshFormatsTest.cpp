@@ -33,43 +33,7 @@ TEST(meshFormats, writeKnownFiles) {
     EXPECT_EQ(binary.substr(132), std::string("0\0", 2));
 }
 
-std::string binaryStl(const std::string& count, std::size_t records) {
-    std::string record(50, '\0');
-    record[15] = 0x3f; // A.x = 0.5
-    std::string file = "solid in the head" + std::string(63, ' ') + count;
-    for (; records > 0; --records) {
-        file += record;
-    }
-    return file;
-}
-
-TEST(meshFormats, readBinaryStlAsFarAsItGoes) {
-    const temporaryFolder folder;
-    const std::string file = folder.path("a.stl");
-    const std::tuple<std::size_t, bool> cases[] = {{3, true}, {4, true}, {2, false}, {1, false}};
-    for (const auto& [records, isWhole] : cases) {
-        bodyMesh mesh;
-        writeFile(file, binaryStl(std::string("\3\0\0\0", 4), records));
-        EXPECT_EQ(mesh.stl_read(file), isWhole) << records;
-        ASSERT_EQ(mesh.faces.size(), 3U);
-        EXPECT_EQ(mesh.faces[2].vertexA.x, 0.5F);
-    }
-    bodyMesh mesh; // of several blocks of records
-    EXPECT_FALSE(mesh.stl_read(writeFile(file, binaryStl(std::string("\0\xc0\0\0", 4), 1))));
-    EXPECT_EQ(mesh.faces.at(49151).vertexA.x, 0.5F);
-    mesh.stl_print(file, false);
-    EXPECT_EQ(readFile(file).size(), 84U + 49152 * 50);
-    EXPECT_TRUE(mesh.stl_read(writeFile(file, binaryStl(std::string(4, '\0'), 0))));
-    EXPECT_FALSE(mesh.stl_read(writeFile(file, "")));
-    EXPECT_EQ(mesh.nFaces, 0);
-    for (const char* count : {"\xff\xff\xff\xff", "\xff\xff\xff\x7f"}) {
-        writeFile(file, binaryStl(std::string(count, 4), 1));
-        EXPECT_EXIT_SAYING(mesh.stl_read(file), 1, "facets, more than memory can hold");
-    }
-    writeFile(file, "Solid, with a capital,\n is no ASCII file\n" + asciiFacet);
-    EXPECT_EXIT_SAYING(mesh.read(file), 1, "a.stl announces");
-}
-
+// What is read of files and written again is checked by the corpus.
 TEST(meshFormats, tellBrokenTextFiles) {
     const temporaryFolder folder;
     const auto good = [&](const std::string& name, const std::string& content) {

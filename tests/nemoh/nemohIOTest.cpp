@@ -11,15 +11,17 @@ namespace {
 using numbers = std::vector<double>;
 
 struct nemohProject : testing::Test {
-    /// Writes the complete Nemoh.cal with `old` replaced by `by`.
-    void change(const std::string& old, const std::string& by) {
-        std::string text = readFile(SORVIK_TEST_DATA "/Nemoh.cal");
-        writeFile(project.path("Nemoh.cal"), text.replace(text.find(old), old.size(), by));
+    /// Writes the complete Nemoh.cal with `old` replaced by `by`, or another file of data/.
+    std::string change(const std::string& old, const std::string& by,
+                       const std::string& from = "Nemoh.cal", const std::string& to = "Nemoh.cal") {
+        std::string text = readFile(SORVIK_TEST_DATA "/" + from);
+        return writeFile(project.path(to), text.replace(text.find(old), old.size(), by));
     }
-    /// Describes a body with six degrees of freedom and another one with two.
+    /// Describes two bodies with two degrees of freedom each, as data/RadiationCoefficients.tec has
+    /// them.
     void describeTwoBodies() {
         nemoh.setEnv(1000, 9.81, 50, 0, 0, 2);
-        nemoh.addBody("a.dat", 0, 0, {1, 2, 3, 4, 5, 6}, {0, 0, 0}, {});
+        nemoh.addBody("a.dat", 0, 0, {1, 5}, {0, 0, 0}, {});
         nemoh.addBody("b.dat", 0, 0, {3, 5}, {0, 0, 0}, {});
     }
     const temporaryFolder project;
@@ -124,83 +126,54 @@ TEST_F(nemohProject, readsHydrostatics) {
               "WARNING: none/Hydrostatics.dat was not found. No volume read from Nemoh results.\n");
 }
 
-/// The first or second numbers of `count` pairs in the order of the arrays.
-numbers numbersOf(int count, int part) {
-    numbers all;
-    for (int place = 0; place < count; ++place) {
-        all.push_back(1000000 + 2 * place + part);
-    }
-    return all;
-}
-
-/// A result file with its numbers in Fortran's manner; the places are (zone, force, frequency).
-std::string resultText(int zones, int freqs, int forces) {
-    std::string text = "VARIABLES=\"w (rad/s)\"\n";
-    for (int force = 0; force < forces; ++force) {
-        text += "\"A   1   1\" \"B   1   1\"\n";
-    }
-    for (int zone = 0; zone < zones; ++zone) {
-        text += "Zone t=\"Motion of body    1 in DoF   1\",I=   128,F=POINT\n";
-        for (int freq = 0; freq < freqs; ++freq) {
-            text += "  0.2500000E-01";
-            for (int i = 0; i < 2 * forces; ++i) {
-                const int place = (zone * forces + i / 2) * freqs + freq;
-                text += "  0." + std::to_string(1000000 + 2 * place + i % 2) + "E+07";
-            }
-            text += "  \n";
-        }
-    }
-    return text;
-}
-
+// The first number of each pair is its place, the second one 100 more.
 TEST_F(nemohProject, putsResultsInTheirPlaces) {
     describeTwoBodies();
-    const std::tuple<int, int, int, int, std::string> cases[] = {
-        {1, 6, 1, 1, "results/"}, {2, 8, 1, 3, "results/"}, {2, 8, 4, 2, "Results/"}};
+    const std::string text = readFile(SORVIK_TEST_DATA "/RadiationCoefficients.tec");
+    const std::string threeZones = text.substr(0, text.rfind("Zone"));
     std::filesystem::create_directory(project.path("Results"));
-    for (const auto& [bodies, dofs, freqs, directions, folder] : cases) {
-        // In the last case "results" keeps what does not fit it.
-        const std::string path = project.path(folder);
-        writeFile(path + "RadiationCoefficients.tec", resultText(dofs, freqs, dofs));
-        writeFile(path + "ExcitationForce.tec", resultText(directions, freqs, dofs));
-        writeFile(path + "FKForce.tec", resultText(directions, freqs, dofs));
-        nemoh.readCoeffs(freqs, bodies, first, second);
-        EXPECT_EQ(first, numbersOf(dofs * dofs * freqs, 0));
-        EXPECT_EQ(second, numbersOf(dofs * dofs * freqs, 1));
-        nemoh.readExcitation(freqs, directions, bodies, first, second);
-        EXPECT_EQ(first, numbersOf(directions * dofs * freqs, 0));
-        EXPECT_EQ(second, numbersOf(directions * dofs * freqs, 1));
-        std::vector<std::complex<double>> forces;
-        nemoh.readForce("FKForce.tec", freqs, directions, bodies, dofs / bodies, forces);
-        ASSERT_EQ(forces.size(), first.size());
-        for (std::size_t i = 0; i < forces.size(); ++i) {
-            EXPECT_LT(std::abs(forces[i] - std::polar(first[i], second[i])), 1e-6);
-        }
+    writeFile(project.path("results/RadiationCoefficients.tec"), "hidden by the other folder");
+    writeFile(project.path("Results/RadiationCoefficients.tec"), text);
+    writeFile(project.path("results/ExcitationForce.tec"), threeZones);
+    numbers places, others;
+    for (int place = 0; place < 32; ++place) {
+        places.push_back(place);
+        others.push_back(100 + place);
+    }
+    nemoh.readCoeffs(2, 2, first, second);
+    EXPECT_EQ(std::pair(first, second), std::pair(places, others));
+    places.resize(24);
+    others.resize(24);
+    nemoh.readExcitation(2, 3, 2, first, second);
+    EXPECT_EQ(std::pair(first, second), std::pair(places, others));
+    std::vector<std::complex<double>> forces;
+    nemoh.readForce("ExcitationForce.tec", 2, 3, 2, 2, forces);
+    ASSERT_EQ(forces.size(), 24U);
+    for (std::size_t i = 0; i < 24; ++i) {
+        EXPECT_LT(std::abs(forces[i] - std::polar(places[i], others[i])), 1e-12);
     }
 }
 
 TEST_F(nemohProject, endsTheRunAtDamagedResults) {
     describeTwoBodies();
-    const auto read = [&](int bodies) { nemoh.readExcitation(2, 2, bodies, first, second); };
-    const std::string file = project.path("results/ExcitationForce.tec");
-    EXPECT_EXIT_SAYING(read(1), 1, "FATAL ERROR: Could not open file " + file + ". Exiting.\n");
+    const auto read = [&](int zones) { nemoh.readExcitation(2, zones, 2, first, second); };
+    const std::string missing = project.path("results/ExcitationForce.tec");
+    EXPECT_EXIT_SAYING(read(4), 1, "FATAL ERROR: Could not open file " + missing + ". Exiting.\n");
     EXPECT_EXIT_SAYING(nemoh.readCoeffs(2, 3, first, second), 1,
                        "bodies: 3\nWarning: ndofs for body 3 were not found\nFATAL ERROR: Can not "
                        "find Body 3 in Nemoh.cal file\n");
-    // Lines 1 to 7 are the head; zones begin at 8 and 11, and 13 is the last line.
-    const std::string good = resultText(2, 2, 6);
-    const std::string cut = good.substr(0, good.rfind("  0.25"));
-    const std::string last = good.substr(cut.size());
-    const std::pair<std::string, const char*> cases[] = {
-        {cut + last.substr(0, 75), "13: expected a frequency and 6 pairs of numbers, found"},
-        {cut + "*\n", "13: expected a frequency and 6 pairs of numbers, found \"*\"."},
-        {good.substr(0, good.rfind("Zone")), "10: expected 2 zones of 2 frequencies up to here"},
-        {cut + "Zone", "13: expected 2 frequencies before the next zone"},
-        {good + last, "14: expected a zone after 2 frequencies"},
-        {good + "Zone\n" + last, "15: expected no more than 2 zones"}};
-    for (const auto& [text, message] : cases) {
-        writeFile(file, text);
-        EXPECT_EXIT_SAYING(read(1), 1, file + ", line " + message);
+    // Lines 1 to 5 are the head; zones begin at 6, 9, 12 and 15, and 17 is the last line.
+    const std::tuple<int, const char*, const char*, const char*> cases[] = {
+        {4, "0.1310000E+03", "", "17: expected a frequency and 4 pairs of numbers, found \"  0.5"},
+        {4, "0.1130000E+03", "*", "11: expected a frequency and 4 pairs of numbers, found"},
+        {4, "  0.5", "Zone", "8: expected 2 frequencies before the next zone"},
+        {4, "Zone t=\"Motion of body    2", "\"", "13: expected a zone after 2 frequencies"},
+        {3, "", "", "16: expected no more than 3 zones"},
+        {5, "", "", "17: expected 5 zones of 2 frequencies up to here"}};
+    for (const auto& [zones, old, by, message] : cases) {
+        const std::string file =
+            change(old, by, "RadiationCoefficients.tec", "results/ExcitationForce.tec");
+        EXPECT_EXIT_SAYING(read(zones), 1, file + ", line " + message);
     }
 }
 

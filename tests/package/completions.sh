@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# completions.sh USAGE FOLDER: every flag of the usage text is in every completion, shells can parse
-# them, and bash completes what it should.
+# completions.sh USAGE FOLDER TABLE: every flag of the usage text is in every completion, shells can
+# parse them, and bash completes as the table tells.
 faults=0
 while read -r flag; do
     for file in sorvikPre.bash _sorvikPre sorvikPre.fish; do
@@ -18,21 +18,12 @@ done
 . "$2/sorvikPre.bash"
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-cd "$work" && mkdir sub && touch hull.stl hull.NEM 'two words.m' case.json || exit 1
-# completes EXPECTED WORD...: what the last word can become.
-completes() {
-    COMP_WORDS=(sorvikPre "${@:2}") COMP_CWORD=$(($# - 1))
+cd "$work" && mkdir sub && touch hull.stl hull.NEM 'two words.m' case.json && [ -s "$3" ] || exit 1
+while IFS=';' read -r expected last before; do
+    read -ra words <<<"sorvikPre $before"
+    COMP_WORDS=("${words[@]}" "$last") COMP_CWORD=${#words[@]}
     _sorvikPre
-    [ "$(printf '%s|' "${COMPREPLY[@]}")" = "$1|" ] ||
-        { echo "${*:2}: ${COMPREPLY[*]}, not $1" && faults=$((faults + 1)); }
-}
-completes '-meshConvert|-nemoh|-waveElevation|-toJSON' ''
-completes '-waveElevation' -w
-completes 'hull.stl|sub' -meshConvert ''
-completes 'hull.stl' -meshConvert a.stl h
-completes '-origin|-wet' -meshConvert a.stl b.stl -
-completes 'two words.m|case.json|sub' -nemoh -f ''
-completes '-positions' -waveElevation -f a.m -p
-completes 'sub' -waveElevation -o ''
-completes '' -toJSON -x
+    [ "$(printf '%s|' "${COMPREPLY[@]}")" = "$expected|" ] ||
+        { echo "$before '$last': ${COMPREPLY[*]}, not $expected" && faults=$((faults + 1)); }
+done < <(grep -v '^#' "$3")
 exit $((faults > 0))

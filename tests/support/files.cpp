@@ -38,7 +38,3 @@ std::string readFile(const std::string& path) {
     content << in.rdbuf();
     return content.str();
 }
-
-bool fileExists(const std::string& path) {
-    return std::filesystem::exists(path);
-}

@@ -22,5 +22,3 @@ std::string writeFile(const std::string& path, const std::string& content);
 
 /// The bytes of a file; a failed test and an empty text where it cannot be read.
 std::string readFile(const std::string& path);
-
-bool fileExists(const std::string& path);

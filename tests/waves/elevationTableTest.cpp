@@ -79,11 +79,7 @@ TEST(elevationTable, isThePlainLoopInOddCases) {
         {"angles without an accurate bit", 1.0, 1e3, {0, 1e14}, {1, 1e20}},
         {"a probe nowhere", 1.0, 1.0, {0, notANumber, -infinity, 3}, {}},
         {"no probe", 1.0, 1.0, {}, {}},
-        {"an instant that is no number spoils those after it",
-         1.0,
-         1.0,
-         {0, 1},
-         {1, notANumber, 2}},
+        {"an instant that is no number", 1.0, 1.0, {0, 1}, {1, notANumber, 2}},
         {"an infinite instant", 1.0, 1.0, {0, 1}, {1, infinity, 2}},
         {"before the start", 1.0, 1.0, {0, 1}, {-3, -2, -1}},
     };

@@ -3,6 +3,22 @@
 
 #include <algorithm>
 
+namespace {
+
+/// Whether the first two lines are those of an ASCII file.
+bool looksLikeText(const std::string& content) {
+    std::istringstream in(content);
+    std::string lines[2];
+    std::getline(in, lines[0]);
+    std::getline(in, lines[1]);
+    const auto holds = [](const std::string& line, const char* small, const char* capital) {
+        return line.find(small) != line.npos || line.find(capital) != line.npos;
+    };
+    return holds(lines[0], "solid", "SOLID") && holds(lines[1], "facet", "FACET");
+}
+
+} // namespace
+
 void tryText(const std::string& text) {
     std::string head = text.substr(0, 84);
     head.resize(84);
@@ -16,8 +32,9 @@ void tryText(const std::string& text) {
     check(mesh.faces.size() == count && isWhole == (text.size() >= 84 + 50 * std::size_t(count)));
     mesh.stl_print(pathOf("1.stl"), false);
     const std::string written = contentOf(pathOf("1.stl"));
-    check(written.size() == 84 + 50 * std::size_t(count) &&
-          bodyMesh::stl_isbinary(pathOf("1.stl")));
+    check(written.size() == 84 + 50 * std::size_t(count));
+    check(bodyMesh::stl_isbinary(pathOf("in.stl")) != looksLikeText(text));
+    check(bodyMesh::stl_isbinary(pathOf("1.stl")) != looksLikeText(written));
     // What the file lacks is left of the record before.
     std::string record(50, '\0');
     for (std::size_t at = 84; at < written.size(); at += 50) {

@@ -179,8 +179,8 @@ bool bodyMesh::stl_isbinary(std::string const& file) {
     if (!holdsWord(line, "solid", "SOLID")) {
         return true;
     }
-    std::getline(in, line);
-    return !holdsWord(line, "facet", "FACET");
+    // Where there is no second line, reading one leaves the first.
+    return !std::getline(in, line) || !holdsWord(line, "facet", "FACET");
 }
 
 bool bodyMesh::stl_read_ascii(std::string const& file) {

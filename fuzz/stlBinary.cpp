@@ -8,13 +8,10 @@ namespace {
 /// Whether the first two lines are those of an ASCII file.
 bool looksLikeText(const std::string& content) {
     std::istringstream in(content);
-    std::string lines[2];
-    std::getline(in, lines[0]);
-    std::getline(in, lines[1]);
-    const auto holds = [](const std::string& line, const char* small, const char* capital) {
-        return line.find(small) != line.npos || line.find(capital) != line.npos;
-    };
-    return holds(lines[0], "solid", "SOLID") && holds(lines[1], "facet", "FACET");
+    std::string first, second;
+    std::getline(std::getline(in, first), second);
+    return (first.find("solid") != first.npos || first.find("SOLID") != first.npos) &&
+           (second.find("facet") != second.npos || second.find("FACET") != second.npos);
 }
 
 } // namespace

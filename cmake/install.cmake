@@ -23,10 +23,7 @@ install(FILES ${PROJECT_BINARY_DIR}/sorvik-run.1 DESTINATION ${CMAKE_INSTALL_MAN
 install(FILES README.md CHANGELOG.md CITATION.cff TYPE DOC)
 install(DIRECTORY docs/ TYPE DOC FILES_MATCHING PATTERN "*.md" PATTERN "*.svg")
 set(dataFolder ${CMAKE_INSTALL_DATADIR}/sorvikPre)
-install(DIRECTORY examples DESTINATION ${dataFolder} USE_SOURCE_PERMISSIONS)
-if(EXISTS ${PROJECT_SOURCE_DIR}/share/plots)
-  install(DIRECTORY share/plots DESTINATION ${dataFolder} USE_SOURCE_PERMISSIONS)
-endif()
+install(DIRECTORY examples share/plots DESTINATION ${dataFolder} USE_SOURCE_PERMISSIONS)
 
 # Shells load a completion by the name of the command.
 set(completions share/completions)

@@ -14,6 +14,8 @@
 
 #include <benchmark/benchmark.h>
 
+using namespace sorvik;
+
 namespace {
 
 struct workload {

@@ -6,7 +6,7 @@
 // A round is a table of a random sea, up to 200,000 elevations, and 300,000 numbers. The first
 // difference ends the run with status 1.
 
-#include "io/sixDigits.hpp"
+#include "base/sixDigits.hpp"
 #include "support/numbers.hpp"
 #include "support/randomSea.hpp"
 #include "waves/elevationTable.hpp"
@@ -16,6 +16,8 @@
 #include <iostream>
 #include <sstream>
 #include <string>
+
+using namespace sorvik;
 
 namespace {
 

@@ -17,6 +17,8 @@
 
 #include <benchmark/benchmark.h>
 
+using namespace sorvik;
+
 namespace {
 
 constexpr int around = 200;

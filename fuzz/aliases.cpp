@@ -1,6 +1,8 @@
 #include "io/inputMap.hpp"
 #include "languageCheck.hpp"
 
+using namespace sorvik;
+
 namespace {
 
 constexpr std::size_t maxPlainEntries = 60;

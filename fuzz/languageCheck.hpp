@@ -1,6 +1,6 @@
 #pragma once
 
-#include "io/classicText.hpp"
+#include "base/classicText.hpp"
 #include "io/sorvikIO.hpp"
 #include "target.hpp"
 
@@ -11,14 +11,14 @@
 using entries = std::map<std::string, std::string>;
 
 inline entries readText(const std::string& text, char assign) {
-    classicText in(text);
+    sorvik::classicText in(text);
     return sorvikIO::readInputStream(in, assign, '.');
 }
 
 /// The words of a value, a blank behind each.
 inline std::string wordsOf(const std::string& value) {
     std::string words;
-    classicText in(value);
+    sorvik::classicText in(value);
     for (std::string word; in >> word;) {
         words.append(word) += ' ';
     }

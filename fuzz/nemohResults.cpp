@@ -10,7 +10,7 @@ template <class Read>
 bool ends(Read read) {
     try {
         read();
-    } catch (const programEnd&) {
+    } catch (const sorvik::processEnded&) {
         return false;
     }
     return true;

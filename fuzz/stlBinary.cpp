@@ -1,7 +1,9 @@
-#include "io/littleEndian.hpp"
+#include "base/littleEndian.hpp"
 #include "meshCheck.hpp"
 
 #include <algorithm>
+
+using namespace sorvik;
 
 namespace {
 

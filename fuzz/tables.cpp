@@ -2,6 +2,8 @@
 
 #include "target.hpp"
 
+using namespace sorvik;
+
 void tryText(const std::string& text) {
     std::vector<double> values;
     const int columns = readNumericTable(fileOf("table", text), values);

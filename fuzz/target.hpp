@@ -1,17 +1,15 @@
 #pragma once
 
+#include "base/processEnd.hpp"
+
 #include <cstdint>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
+#include <random>
 #include <sstream>
 #include <string>
-
-#ifndef exit
-struct programEnd {};
-#endif
 
 /// Stops the program where `condition` does not hold, in every kind of build.
 inline void check(bool condition) {
@@ -23,8 +21,10 @@ inline void check(bool condition) {
 /// The path of `name` in a folder of this process, which lies in memory where TMPDIR does.
 inline std::string pathOf(const std::string& name) {
     static const struct temporaryFolder {
-        std::string path = (std::filesystem::temp_directory_path() / "sorvikFuzz.XXXXXX").string();
-        temporaryFolder() { check(mkdtemp(path.data()) != nullptr); }
+        std::string path = (std::filesystem::temp_directory_path() /
+                            ("sorvikFuzz." + std::to_string(std::random_device()())))
+                               .string();
+        temporaryFolder() { check(std::filesystem::create_directory(path)); }
         ~temporaryFolder() { std::filesystem::remove_all(path); }
     } folder;
     return folder.path + "/" + name;
@@ -54,9 +54,10 @@ extern "C" [[gnu::used]] inline int LLVMFuzzerTestOneInput(const std::uint8_t* d
                                                            std::size_t size) {
     output().str("");
     std::cout.rdbuf(&output());
+    sorvik::setEndHandler(sorvik::throwProcessEnd);
     try {
         tryText({reinterpret_cast<const char*>(data), size});
-    } catch (const programEnd&) {
+    } catch (const sorvik::processEnded&) {
     }
     return 0;
 }

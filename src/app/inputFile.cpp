@@ -1,13 +1,15 @@
 #include "app/inputFile.hpp"
 
-#include <cstdlib>
-#include <iostream>
+#include "base/processEnd.hpp"
+
+namespace sorvik {
 
 inputMap readInputFile(const std::string& name) {
     inputMap inputs;
     if (!inputs.readFile(name)) {
-        std::cout << "Cannot find input file " << name << std::endl;
-        std::exit(-1);
+        endWithLine("Cannot find input file " + name, -1);
     }
     return inputs;
 }
+
+} // namespace sorvik

@@ -6,6 +6,6 @@
 int jsonFormat(int argc, const char** argv) {
     std::string name;
     reader::getFlag("-f", argc, argv, name);
-    readInputFile(name).print(reader::removeExtension(name) + ".json");
+    sorvik::readInputFile(name).print(reader::removeExtension(name) + ".json");
     return 1;
 }

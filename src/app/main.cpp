@@ -13,7 +13,7 @@
 namespace {
 
 /// Made first of all static objects: the registry of wave models allocates.
-[[gnu::init_priority(101)]] const processGuards guards;
+[[gnu::init_priority(101)]] const sorvik::processGuards guards;
 
 bool isAsked(const char* flag, int argc, const char** argv) {
     int position = argc;
@@ -32,7 +32,7 @@ int nemohProject(int argc, const char** argv) {
         help();
         return -1;
     }
-    return setNemohCase(readInputFile(name));
+    return setNemohCase(sorvik::readInputFile(name));
 }
 
 } // namespace
@@ -46,7 +46,7 @@ int main(int argc, const char** argv) {
     }
     int position = argc;
     if (reader::findFlag("-meshConvert", argc, argv, position) &&
-        !meshConvert(position, argc, argv)) {
+        !sorvik::meshConvert(position, argc, argv)) {
         return 0;
     }
     if (isAsked("-nemoh", argc, argv)) {

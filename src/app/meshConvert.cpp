@@ -1,11 +1,13 @@
 #include "app/meshConvert.hpp"
 
 #include "app/help.hpp"
+#include "base/numberText.hpp"
 #include "io/reader.hpp"
 #include "mesh/bodyMesh.hpp"
 
-#include <cstdlib>
 #include <iostream>
+
+namespace sorvik {
 
 namespace {
 
@@ -28,7 +30,7 @@ bool readOptions(int argc, const char** argv, conversionOptions& options) {
             return false;
         }
         for (double& coordinate : options.origin) {
-            coordinate = std::atof(argv[++flag]);
+            coordinate = leadingNumber(argv[++flag]);
         }
     }
     if (reader::findFlag("-wet", argc, argv, flag)) {
@@ -37,7 +39,7 @@ bool readOptions(int argc, const char** argv, conversionOptions& options) {
                       << std::endl;
             return false;
         }
-        options.level = std::atof(argv[flag + 1]);
+        options.level = leadingNumber(argv[flag + 1]);
         options.wetOnly = true;
     }
     return true;
@@ -72,3 +74,5 @@ bool meshConvert(int position, int argc, const char** argv) {
     convert(argv[position + 1], argv[position + 2], options);
     return true;
 }
+
+} // namespace sorvik

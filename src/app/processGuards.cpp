@@ -1,10 +1,12 @@
 #include "app/processGuards.hpp"
 
-#include "io/platform.hpp"
+#include "base/platform.hpp"
 #include "io/printer.hpp"
 
 #include <iostream>
 #include <new>
+
+namespace sorvik {
 
 namespace {
 
@@ -20,3 +22,5 @@ processGuards::processGuards() {
     std::set_new_handler(endForMemory);
     platform::holdStandardStreams();
 }
+
+} // namespace sorvik

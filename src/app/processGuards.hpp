@@ -1,5 +1,7 @@
 #pragma once
 
+namespace sorvik {
+
 /// What holds for the whole run, static initialisation included.
 class processGuards {
 public:
@@ -7,3 +9,5 @@ public:
     /// streams: messages must not go into results, nor change on their way.
     processGuards();
 };
+
+} // namespace sorvik

@@ -1,10 +1,13 @@
 #include "io/aliasResolver.hpp"
 
+#include "base/excerpt.hpp"
+#include "io/inputLimits.hpp"
 #include "io/printer.hpp"
-#include "io/sorvikIO.hpp"
 
 #include <algorithm>
 #include <iterator>
+
+namespace sorvik {
 
 namespace {
 
@@ -26,8 +29,8 @@ std::size_t commonLength(std::string_view a, std::string_view b) {
 }
 
 [[noreturn]] void fail(std::string_view prefix, std::string_view source, std::string_view what) {
-    printer::fatalError("The alias " + sorvikIO::excerpt(prefix) + sorvikIO::memberDLM +
-                        std::string(sourceWord) + " = " + sorvikIO::excerpt(source) +
+    printer::fatalError("The alias " + excerpt(prefix) + sorvikIO::memberDLM +
+                        std::string(sourceWord) + " = " + excerpt(source) +
                         std::string(what));
 }
 
@@ -135,3 +138,5 @@ bool aliasResolver::add(alias const& a, entry e) {
     announce(&*added);
     return true;
 }
+
+} // namespace sorvik

@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+namespace sorvik {
+
 /// Resolves the `source` entries of a map in passes, as if every pass walked the whole map.
 ///
 /// An entry, once it has been carried over to an alias, has nothing more to give to it, since no
@@ -55,3 +57,5 @@ private:
     /// By source, those that had a turn.
     std::map<std::string_view, std::vector<alias*>> bySource;
 };
+
+} // namespace sorvik

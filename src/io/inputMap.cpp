@@ -1,15 +1,13 @@
 #include "io/inputMap.hpp"
 
+#include "base/classicText.hpp"
+#include "base/files.hpp"
+#include "base/rewrite.hpp"
 #include "io/aliasResolver.hpp"
-#include "io/classicText.hpp"
 #include "io/printer.hpp"
-#include "io/reader.hpp"
-#include "io/rewrite.hpp"
 #include "io/sorvikIO.hpp"
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
 #include <iostream>
 
 namespace {
@@ -51,22 +49,20 @@ inputMap::inputMap(const std::string& name) {
 bool inputMap::readFile(const std::string& name) {
     fileName = name;
     assign = isJson(fileName) ? ':' : '=';
-    std::ifstream file(fileName, std::ios::binary);
-    // A folder opens like a file but cannot be read like one.
-    std::error_code ignored;
-    if (!file.is_open() || std::filesystem::is_directory(fileName, ignored)) {
+    std::ifstream file = sorvik::files::open(fileName);
+    if (!file.is_open()) {
         return false;
     }
     // Read whole: blocks are found by going back and forth in the text.
     const std::string content = readAll(file, fileName);
-    classicText text(content);
+    sorvik::classicText text(content);
     map = sorvikIO::readInputStream(text, assign, member);
     assignSources();
     return true;
 }
 
 void inputMap::assignSources() {
-    aliasResolver aliases(map);
+    sorvik::aliasResolver aliases(map);
     int changes = 0;
     for (int pass = 0; pass < maxPasses; ++pass) {
         if (!aliases.pass()) {
@@ -101,7 +97,7 @@ void inputMap::set(const std::string& key, const std::string& value) {
         map[key] = value;
         return;
     }
-    classicText text(value);
+    sorvik::classicText text(value);
     const inputMap entries(text, sorvikIO::assignmentDLM, sorvikIO::memberDLM);
     const std::string prefix = key + sorvikIO::memberDLM;
     for (const auto& [subKey, subValue] : entries.map) {
@@ -114,10 +110,10 @@ void inputMap::print(std::string outName) const {
         return;
     }
     if (outName == ".json") {
-        outName = reader::removeExtension(fileName) + ".json";
+        outName = sorvik::files::withoutExtension(fileName) + ".json";
     }
     const std::string text = sorvikIO::toJSON(map, 0);
-    if (!rewrite(fileName, outName, [&](std::ostream& out) { out << text; })) {
+    if (!sorvik::rewrite(fileName, outName, [&](std::ostream& out) { out << text; })) {
         printer::fatalError("Cannot write the JSON file " + outName +
                             ". Expected a file in an existing folder that can be written to, and "
                             "room on the disk.");

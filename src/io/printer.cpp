@@ -1,8 +1,9 @@
 #include "io/printer.hpp"
 
+#include "base/processEnd.hpp"
+
 #include <cmath>
 #include <cstddef>
-#include <cstdlib>
 #include <iostream>
 #include <string_view>
 
@@ -14,7 +15,7 @@ constexpr int barLength = 50;
 
 [[noreturn]] void terminate() {
     std::cout << "* * * Terminating sorvik simulation * * * \n\n" << std::endl;
-    std::exit(1);
+    sorvik::processEnd(1);
 }
 
 [[noreturn]] void terminateWith(std::string_view message) {

@@ -1,11 +1,9 @@
 #include "io/reader.hpp"
 
+#include "base/files.hpp"
 #include "io/printer.hpp"
 #include "io/sorvikIO.hpp"
 
-#include <cstdio>
-#include <filesystem>
-#include <fstream>
 #include <initializer_list>
 #include <iostream>
 
@@ -145,10 +143,7 @@ int reader::getFlag(const std::string& flag, int argc, const char** argv, std::s
 }
 
 bool reader::fileExist(const std::string& name, bool mustExist) {
-    // A folder opens like a file but cannot be read like one.
-    std::error_code ignored;
-    const bool found =
-        std::ifstream(name).is_open() && !std::filesystem::is_directory(name, ignored);
+    const bool found = sorvik::files::canOpen(name);
     if (!found && mustExist) {
         refuseFile(name);
     }
@@ -156,28 +151,14 @@ bool reader::fileExist(const std::string& name, bool mustExist) {
 }
 
 void reader::makeFolder(const std::string& path) {
-    std::error_code ignored;
-    std::filesystem::create_directory(path, ignored);
-
-    // A file of the probe's name may be the user's: it is opened without changing it.
-    const std::string probe = path + "/test.txt";
-    const bool wasThere = std::filesystem::exists(std::filesystem::symlink_status(probe, ignored));
-    if (!std::ofstream(probe, std::ios::app).is_open()) {
+    if (!sorvik::files::makeFolder(path)) {
         printer::fatalError("The folder " + path +
                             " was not created properly. \n\t Sorvik only creates the final layer "
                             "of the folder tree. Please make sure that the parent directory "
                             "exists, and check permissions.");
     }
-    if (!wasThere) {
-        std::remove(probe.c_str());
-    }
 }
 
 std::string reader::removeExtension(const std::string& name) {
-    const bool hasSlash = name.find('/') != std::string::npos;
-    const std::size_t separator = name.rfind(hasSlash ? '/' : '\\');
-    const std::size_t dot = name.rfind('.');
-    const bool isExtension =
-        dot != std::string::npos && (separator == std::string::npos || dot > separator);
-    return isExtension ? name.substr(0, dot) : name;
+    return sorvik::files::withoutExtension(name);
 }

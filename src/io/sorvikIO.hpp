@@ -1,5 +1,7 @@
 #pragma once
 
+#include "io/inputLimits.hpp"
+
 #include <iosfwd>
 #include <map>
 #include <string>
@@ -20,19 +22,8 @@
 namespace sorvikIO {
 
 constexpr char assignmentDLM = '=';
-constexpr char memberDLM = '.';
 /// What lookups that fail return.
 extern const std::string notFoundStr;
-
-/// Blocks within blocks that an input may hold; a deeper one is a fatal error.
-constexpr int maxNesting = 100;
-/// Entries that a map may reach while aliases are resolved; more are a fatal error.
-constexpr std::size_t maxMapEntries = 1'000'000;
-/// Characters that aliases may add to a map, and as many that blocks may add to its keys; more are
-/// a fatal error.
-constexpr std::size_t maxAddedText = 64 << 20;
-/// Characters of a JSON text; more are a fatal error.
-constexpr std::size_t maxJsonText = 128 << 20;
 
 // ---- Tokeniser (sorvikIO_tokeniser.cpp) ----
 
@@ -57,8 +48,6 @@ void strip(std::string& s);
 /// Turns brackets, quotes, commas, semicolons and tabs into blanks, removes '%' and '//' comments
 /// up to the end of their line, and strips.
 void stripFromUnwanted(std::string& s);
-/// `text`, or its beginning and "..." where it is too long for a message.
-std::string excerpt(std::string_view text);
 /// Whether `c` is one of the characters that `stripFromUnwanted` turns into blanks.
 bool checkUnwanted(char c);
 

@@ -8,12 +8,12 @@
 // match is plain text: the source "wave" covers the keys "wave.Hs" and "waves.n" alike.
 
 bool sorvikIO::assignAlternatives(std::map<std::string, std::string>& map) {
-    return aliasResolver(map).pass();
+    return sorvik::aliasResolver(map).pass();
 }
 
 bool sorvikIO::addAlternativeKey(std::map<std::string, std::string>& map, const std::string& prefix,
                                  const std::string& source) {
-    return aliasResolver(map).resolve(prefix, source);
+    return sorvik::aliasResolver(map).resolve(prefix, source);
 }
 
 std::vector<std::string> sorvikIO::splitKey(const std::string& key) {

@@ -1,10 +1,11 @@
 #include "io/sorvikIO.hpp"
 
-#include "io/classicText.hpp"
+#include "base/classicText.hpp"
+#include "base/excerpt.hpp"
+#include "base/numberText.hpp"
 #include "io/printer.hpp"
 
 #include <algorithm>
-#include <cctype>
 #include <iterator>
 
 // Dotted keys become nested objects. Within every object all plain members come first, in key
@@ -13,13 +14,13 @@
 namespace {
 
 std::string jsonWord(const std::string& word) {
-    const bool isText = std::isalpha(static_cast<unsigned char>(word.front())) != 0;
+    const bool isText = sorvik::isLetter(word.front());
     return isText ? '"' + word + '"' : word;
 }
 
 std::vector<std::string> words(const std::string& value) {
     std::vector<std::string> found;
-    classicText in(value);
+    sorvik::classicText in(value);
     std::string word;
     while (in >> word) {
         found.push_back(word);
@@ -47,7 +48,7 @@ std::string memberHead(const std::string& key, int indent) {
 void checkDepth(const std::string& key) {
     const auto dots = std::count(key.begin(), key.end(), sorvikIO::memberDLM);
     if (dots >= sorvikIO::maxNesting) {
-        printer::fatalError("The key " + sorvikIO::excerpt(key) + " has " +
+        printer::fatalError("The key " + sorvik::excerpt(key) + " has " +
                             std::to_string(dots + 1) + " components. At most " +
                             std::to_string(sorvikIO::maxNesting) + " are expected.");
     }

@@ -1,7 +1,8 @@
 #include "io/sorvikIO.hpp"
 
-#include <cstdlib>
-#include <iostream>
+#include "base/processEnd.hpp"
+
+#include <istream>
 #include <limits>
 
 // The lookup of a single key in a stream, without reading the rest into a map.
@@ -44,9 +45,9 @@ std::string sorvikIO::findKey(std::istream& in, const std::string& key) {
         if (word == key && in >> assign && assign == assignmentDLM) {
             skipBlanks(in);
             if (in.peek() == ';' || in.peek() == '\n') {
-                std::cout << "FATAL ERROR in sorvikIO::findKey: \n Key " << key
-                          << " has no value in the input file!" << std::endl;
-                std::exit(1);
+                sorvik::endWithLine("FATAL ERROR in sorvikIO::findKey: \n Key " + key +
+                                        " has no value in the input file!",
+                                    1);
             }
             return readValue(in);
         }

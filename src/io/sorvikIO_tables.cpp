@@ -1,6 +1,6 @@
 #include "io/sorvikIO.hpp"
 
-#include "io/classicText.hpp"
+#include "base/classicText.hpp"
 
 // A table is one row of numbers per line. The look ahead after each line makes the last line of a
 // file the last one read, with or without a final end of line.
@@ -59,7 +59,7 @@ bool sorvikIO::isDLM(std::istream& in, int nSkip) {
 
 template <class T>
 int sorvikIO::readLine(const std::string& line, std::vector<T>& data) {
-    classicText in(line);
+    sorvik::classicText in(line);
     int count = 0;
     while (in.good()) {
         T value(0);
@@ -73,7 +73,7 @@ int sorvikIO::readLine(const std::string& line, std::vector<T>& data) {
 
 template <class T>
 int sorvikIO::readLineDLM(const std::string& line, std::vector<T> data) {
-    classicText in(line);
+    sorvik::classicText in(line);
     int count = 0;
     while (in.good()) {
         T value(0);

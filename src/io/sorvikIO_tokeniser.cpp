@@ -1,6 +1,7 @@
 #include "io/sorvikIO.hpp"
 
-#include "io/classicText.hpp"
+#include "base/classicText.hpp"
+#include "base/excerpt.hpp"
 #include "io/printer.hpp"
 
 #include <algorithm>
@@ -95,7 +96,7 @@ private:
     static constexpr std::size_t unknown = std::string_view::npos - 1;
 
     std::string_view text;
-    classicText in;
+    sorvik::classicText in;
     char assign;
     std::size_t position = 0;
     std::size_t split = unknown;
@@ -160,7 +161,7 @@ private:
             next = std::next(map.emplace_hint(next, prefix + subKey, std::move(subValue)));
             addedText += map.size() > before ? prefix.size() : 0;
             if (addedText > sorvikIO::maxAddedText) {
-                printer::fatalError("The names of blocks, such as " + sorvikIO::excerpt(key) +
+                printer::fatalError("The names of blocks, such as " + sorvik::excerpt(key) +
                                     ", add more than " + std::to_string(sorvikIO::maxAddedText) +
                                     " characters to the keys of the input.");
             }
@@ -257,11 +258,6 @@ void sorvikIO::stripFromUnwanted(std::string& s) {
     }
     strip(kept);
     s = std::move(kept);
-}
-
-std::string sorvikIO::excerpt(std::string_view text) {
-    constexpr std::size_t longest = 60;
-    return std::string(text.substr(0, longest)) + (text.size() > longest ? "..." : "");
 }
 
 bool sorvikIO::checkUnwanted(char c) {

@@ -1,20 +1,20 @@
 #include "io/sorvikIO.hpp"
 
-#include "io/classicText.hpp"
+#include "base/classicText.hpp"
 
 // A number is what the standard stream extraction accepts in the classic locale; there is no
 // grammar of our own.
 
 template <class T>
 void sorvikIO::parse(const std::string& text, T& out) {
-    classicText in(text);
+    sorvik::classicText in(text);
     out = T(0);
     in >> out;
 }
 
 template <class T>
 void sorvikIO::parse(const std::string& text, std::vector<T>& out) {
-    classicText in(text);
+    sorvik::classicText in(text);
     while (in.good()) {
         T value(0);
         in >> value >> std::ws;

@@ -1,8 +1,8 @@
 #include "mesh/bodyMesh.hpp"
 
-#include "io/rewrite.hpp"
+#include "base/processEnd.hpp"
+#include "base/rewrite.hpp"
 
-#include <cstdlib>
 #include <iostream>
 #include <map>
 
@@ -29,10 +29,10 @@ bool bodyMesh::read(std::string const& file) {
     case gdf: return gdf_read(file);
     case nemoh: return nemoh_read(file) != 0;
     default:
-        std::cout << "WARNING. MESH FILE FORMAT " << frmt
-                  << " IS NOT SUPPPORTED. PLEASE SUPPLY A .gdf or .stl or a .dat nemoh mesh file."
-                  << std::endl;
-        std::exit(1);
+        sorvik::endWithLine(
+            "WARNING. MESH FILE FORMAT " + std::to_string(frmt) +
+                " IS NOT SUPPPORTED. PLEASE SUPPLY A .gdf or .stl or a .dat nemoh mesh file.",
+            1);
     }
 }
 
@@ -41,13 +41,13 @@ bool bodyMesh::write(std::string const& file, bool wetOnly) {
     constexpr double gravity = 9.81;
     switch (chooseFrmt(file)) {
     case stl:
-        rewrite(meshFile, file, [&](std::ostream& out) { stl_write(out, wetOnly); });
+        sorvik::rewrite(meshFile, file, [&](std::ostream& out) { stl_write(out, wetOnly); });
         return true;
     case gdf:
-        rewrite(meshFile, file,
+        sorvik::rewrite(meshFile, file,
                 [&](std::ostream& out) { gdf_write(out, wetOnly, lengthScale, gravity); });
         return true;
-    case nemoh: rewrite(meshFile, file, [&](std::ostream& out) { nemoh_write(out); }); return true;
+    case nemoh: sorvik::rewrite(meshFile, file, [&](std::ostream& out) { nemoh_write(out); }); return true;
     default:
         std::cout << "Warning: Output format not supported. Please choose among: .gdf, .stl and "
                      ".dat formats"

@@ -1,8 +1,8 @@
 #include "mesh/bodyMesh.hpp"
 
+#include "base/files.hpp"
 #include "mesh/pointText.hpp"
 
-#include <fstream>
 #include <iostream>
 
 // One line of text, then
@@ -19,7 +19,7 @@ struct gdfHeader {
     int panels = 0;
 };
 
-gdfHeader readHeader(textScanner& in) {
+gdfHeader readHeader(sorvik::textScanner& in) {
     gdfHeader header;
     double unused = 0;
     in.skipLine();
@@ -35,13 +35,13 @@ gdfHeader readHeader(textScanner& in) {
 
 /// Appends the panels of the records in odd places, each as the triangle of its first three
 /// corners; those in even places make none. Returns the number of whole records read.
-int readPanels(textScanner& in, int announced, std::vector<triangle>& faces) {
+int readPanels(sorvik::textScanner& in, int announced, std::vector<triangle>& faces) {
     int records = 0;
     while (records < announced && in.good()) {
-        const v3<float> a = readPoint(in);
-        const v3<float> b = readPoint(in);
-        const v3<float> c = readPoint(in);
-        readPoint(in);
+        const v3<float> a = sorvik::readPoint(in);
+        const v3<float> b = sorvik::readPoint(in);
+        const v3<float> c = sorvik::readPoint(in);
+        sorvik::readPoint(in);
         if (in.failed()) {
             break;
         }
@@ -57,8 +57,8 @@ int readPanels(textScanner& in, int announced, std::vector<triangle>& faces) {
 
 bool bodyMesh::gdf_read(std::string const& file) {
     std::cout << " READING GDF FILE " << file << " IN ASCII FORMAT " << std::endl;
-    std::ifstream stream(file, std::ios::binary);
-    textScanner in(stream);
+    std::ifstream stream = sorvik::files::open(file);
+    sorvik::textScanner in(stream);
     const gdfHeader header = readHeader(in);
     const bool hasHeader = !in.failed();
     const int records = hasHeader ? readPanels(in, header.panels, faces) : 0;
@@ -80,12 +80,12 @@ bool bodyMesh::gdf_read(std::string const& file) {
 }
 
 void bodyMesh::gdf_print(std::string const& file, bool wetOnly, double ULEN, double GRAV) const {
-    std::ofstream stream(file, std::ios::binary);
+    std::ofstream stream = sorvik::files::create(file);
     gdf_write(stream, wetOnly, ULEN, GRAV);
 }
 
 void bodyMesh::gdf_write(std::ostream& stream, bool wetOnly, double ULEN, double GRAV) const {
-    textWriter out(stream);
+    sorvik::textWriter out(stream);
     out << " WAMIT FILE FORMAT FROM TRIANGULAR STL-STYLE MESH \n";
     out << ULEN << ' ' << GRAV << "\t ULEN GRAV\n";
     out << "0 0\t ISX ISY\n";

@@ -1,9 +1,9 @@
 #include "mesh/bodyMesh.hpp"
 
+#include "base/files.hpp"
 #include "mesh/nodeMatcher.hpp"
 #include "mesh/pointText.hpp"
 
-#include <fstream>
 #include <iostream>
 #include <map>
 
@@ -46,7 +46,7 @@ private:
 };
 
 /// Reads the two header numbers and the first node number; returns the symmetry flag.
-int readHeader(textScanner& in, int& firstNode) {
+int readHeader(sorvik::textScanner& in, int& firstNode) {
     int marker = 0;
     int symmetry = 0;
     in.read(marker);
@@ -56,18 +56,18 @@ int readHeader(textScanner& in, int& firstNode) {
 }
 
 /// Reads the nodes from number `first` on, and the line that ends them.
-nodeList readNodes(textScanner& in, int first) {
+nodeList readNodes(sorvik::textScanner& in, int first) {
     nodeList nodes;
     int number = first;
     while (in.good() && number >= 1) {
-        nodes.set(number, readPoint(in));
+        nodes.set(number, sorvik::readPoint(in));
         in.read(number);
     }
-    readPoint(in);
+    sorvik::readPoint(in);
     return nodes;
 }
 
-void readPanels(textScanner& in, nodeList const& nodes, std::vector<triangle>& faces) {
+void readPanels(sorvik::textScanner& in, nodeList const& nodes, std::vector<triangle>& faces) {
     for (;;) {
         // The end of line behind the last panel begins no other.
         in.skipSpace();
@@ -91,12 +91,12 @@ void readPanels(textScanner& in, nodeList const& nodes, std::vector<triangle>& f
 } // namespace
 
 int bodyMesh::nemoh_readMeshInfo(std::string const& file, int& nNodes, int& nPanels) {
-    std::ifstream stream(file, std::ios::binary);
+    std::ifstream stream = sorvik::files::open(file);
     return nemoh_countMesh(stream, nNodes, nPanels);
 }
 
 int bodyMesh::nemoh_countMesh(std::istream& stream, int& nNodes, int& nPanels) {
-    textScanner in(stream);
+    sorvik::textScanner in(stream);
     int number = 0;
     const int symmetry = readHeader(in, number);
     while (in.good() && number >= 1) {
@@ -115,8 +115,8 @@ int bodyMesh::nemoh_countMesh(std::istream& stream, int& nNodes, int& nPanels) {
 }
 
 int bodyMesh::nemoh_read(std::string const& file) {
-    std::ifstream stream(file, std::ios::binary);
-    textScanner in(stream);
+    std::ifstream stream = sorvik::files::open(file);
+    sorvik::textScanner in(stream);
     int firstNode = 0;
     const int symmetry = readHeader(in, firstNode);
     const nodeList nodes = readNodes(in, firstNode);
@@ -132,16 +132,16 @@ int bodyMesh::nemoh_print(std::string const& file, bool wetOnly) const {
     if (!wetOnly) {
         std::cout << " Warning: Nemoh mesh only supports wetFaces to be printed." << std::endl;
     }
-    std::ofstream stream(file, std::ios::binary);
+    std::ofstream stream = sorvik::files::create(file);
     return nemoh_write(stream);
 }
 
 int bodyMesh::nemoh_write(std::ostream& stream) const {
-    nodeMatcher matcher(wetFaces.size());
+    sorvik::nodeMatcher matcher(wetFaces.size());
     for (triangle const* panel : wetFaces) {
         matcher.addPanel(panel->vertexA, panel->vertexB, panel->vertexC);
     }
-    textWriter out(stream);
+    sorvik::textWriter out(stream);
     out << "2 0\n";
     int number = 0;
     for (v3<float> const& node : matcher.nodes()) {

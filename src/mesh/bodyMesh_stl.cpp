@@ -1,7 +1,8 @@
 #include "mesh/bodyMesh.hpp"
 
-#include "io/littleEndian.hpp"
-#include "io/memory.hpp"
+#include "base/files.hpp"
+#include "base/littleEndian.hpp"
+#include "base/memory.hpp"
 #include "io/printer.hpp"
 #include "mesh/pointText.hpp"
 
@@ -9,7 +10,6 @@
 #include <cstdint>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
 #include <limits>
 
@@ -46,7 +46,7 @@ constexpr std::size_t panelMemory = sizeof(triangle) + 9 * sizeof(double) + 16 +
 triangle loadFacet(const char* record) {
     float values[floatsPerFacet];
     for (std::size_t i = 0; i < floatsPerFacet; ++i) {
-        const std::uint32_t word = littleEndian::load<std::uint32_t>(record + i * sizeof(float));
+        const std::uint32_t word = sorvik::littleEndian::load<std::uint32_t>(record + i * sizeof(float));
         std::memcpy(values + i, &word, sizeof word);
     }
     return triangle(values);
@@ -56,7 +56,7 @@ char* storeVector(char* bytes, v3<float> const& v) {
     for (const float value : {v.x, v.y, v.z}) {
         std::uint32_t word = 0;
         std::memcpy(&word, &value, sizeof word);
-        littleEndian::store(bytes, word);
+        sorvik::littleEndian::store(bytes, word);
         bytes += sizeof word;
     }
     return bytes;
@@ -117,7 +117,7 @@ void readFacets(std::istream& in, std::size_t count, std::vector<triangle>& face
 }
 
 /// Reads three floats behind a keyword of `words` words.
-void readVector(textScanner& in, int words, float* values) {
+void readVector(sorvik::textScanner& in, int words, float* values) {
     for (int i = 0; i < words; ++i) {
         in.skipWord();
     }
@@ -127,7 +127,7 @@ void readVector(textScanner& in, int words, float* values) {
     in.skipSpace();
 }
 
-triangle readFacet(textScanner& in) {
+triangle readFacet(sorvik::textScanner& in) {
     float values[floatsPerFacet] = {};
     readVector(in, 2, values);
     in.skipLine();
@@ -147,18 +147,18 @@ void reserveForRest(std::string const& file, std::size_t textRead, std::vector<t
     const auto size = std::filesystem::file_size(file, failed);
     if (!failed && size > textRead) {
         const std::size_t perFacet = textRead / faces.size();
-        memory::reserve(faces, static_cast<std::size_t>(size) / perFacet + faces.size());
+        sorvik::memory::reserve(faces, static_cast<std::size_t>(size) / perFacet + faces.size());
     }
 }
 
 /// Whether the next line begins a facet: an F, small or capital.
-bool isFacetNext(textScanner& in) {
+bool isFacetNext(sorvik::textScanner& in) {
     constexpr int lowerCaseBit = 0x20;
     const int next = in.peek();
     return in.good() && (next & ~lowerCaseBit) == 'F';
 }
 
-void writeFacet(textWriter& out, triangle const& panel) {
+void writeFacet(sorvik::textWriter& out, triangle const& panel) {
     out << "\tfacet normal " << panel.normal << "\n\t\touter loop\n";
     for (auto corner : {&triangle::vertexA, &triangle::vertexB, &triangle::vertexC}) {
         out << "\t\t\tvertex " << panel.*corner << '\n';
@@ -173,7 +173,7 @@ bool holdsWord(std::string const& line, const char* small, const char* capital) 
 } // namespace
 
 bool bodyMesh::stl_isbinary(std::string const& file) {
-    std::ifstream in(file, std::ios::binary);
+    std::ifstream in = sorvik::files::open(file);
     std::string line;
     std::getline(in, line);
     if (!holdsWord(line, "solid", "SOLID")) {
@@ -185,8 +185,8 @@ bool bodyMesh::stl_isbinary(std::string const& file) {
 
 bool bodyMesh::stl_read_ascii(std::string const& file) {
     std::cout << " READING STL FILE " << file << " IN ASCII FORMAT " << std::endl;
-    std::ifstream stream(file, std::ios::binary);
-    textScanner in(stream);
+    std::ifstream stream = sorvik::files::open(file);
+    sorvik::textScanner in(stream);
     in.skipLine();
     int count = 0;
     if (in.good()) {
@@ -207,38 +207,38 @@ bool bodyMesh::stl_read_ascii(std::string const& file) {
 }
 
 bool bodyMesh::stl_read(std::string const& file) {
-    std::ifstream in(file, std::ios::binary);
+    std::ifstream in = sorvik::files::open(file);
     char head[headerSize + countSize] = {};
     in.read(head, sizeof head);
-    const std::uint32_t count = littleEndian::load<std::uint32_t>(head + headerSize);
+    const std::uint32_t count = sorvik::littleEndian::load<std::uint32_t>(head + headerSize);
     if (count > std::uint32_t(std::numeric_limits<int>::max()) ||
-        !memory::canHold(count, panelMemory)) {
+        !sorvik::memory::canHold(count, panelMemory)) {
         printer::fatalError(file + " announces " + std::to_string(count) +
                             " facets, more than memory can hold.");
     }
     faces.clear();
-    memory::reserve(faces, count);
+    sorvik::memory::reserve(faces, count);
     readFacets(in, count, faces);
     nFaces = static_cast<int>(count);
     return in.good();
 }
 
 void bodyMesh::stl_print_ascii(std::string const& file, bool wetOnly) const {
-    std::ofstream stream(file, std::ios::binary);
-    textWriter out(stream);
+    std::ofstream stream = sorvik::files::create(file);
+    sorvik::textWriter out(stream);
     out << "solid OBJECT\n";
     forChosen(wetOnly, [&](triangle const& panel) { writeFacet(out, panel); });
     out << "endsolid OBJECT\n";
 }
 
 void bodyMesh::stl_print(std::string const& file, bool wetOnly) const {
-    std::ofstream stream(file, std::ios::binary);
+    std::ofstream stream = sorvik::files::create(file);
     stl_write(stream, wetOnly);
 }
 
 void bodyMesh::stl_write(std::ostream& stream, bool wetOnly) const {
     char head[headerSize + countSize] = {};
-    littleEndian::store(head + headerSize, wetOnly ? static_cast<std::uint32_t>(wetFaces.size())
+    sorvik::littleEndian::store(head + headerSize, wetOnly ? static_cast<std::uint32_t>(wetFaces.size())
                                                    : std::uint32_t(nFaces));
     stream.write(head, sizeof head);
     facetWriter out(stream);

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <cstring>
 
+namespace sorvik {
+
 namespace {
 
 /// Cells per metre, a power of two so that scaling is exact. A corner then reaches into two cells
@@ -159,3 +161,5 @@ std::size_t nodeMatcher::bucketOf(v3<float> const& p) const {
     return bucketOf(cellOf(static_cast<double>(p.x)), cellOf(static_cast<double>(p.y)),
                     cellOf(static_cast<double>(p.z)));
 }
+
+} // namespace sorvik

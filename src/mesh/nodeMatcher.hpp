@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <vector>
 
+namespace sorvik {
+
 /// Gives panel corners their shared nodes: a corner takes the lowest node within `tolerance`, else
 /// a new one.
 ///
@@ -49,3 +51,5 @@ private:
     /// of others; a power of two of them, at least as many as nodes.
     std::vector<int> buckets;
 };
+
+} // namespace sorvik

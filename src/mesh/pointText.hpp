@@ -1,8 +1,10 @@
 #pragma once
 
-#include "io/textScanner.hpp"
-#include "io/textWriter.hpp"
+#include "base/textScanner.hpp"
+#include "base/textWriter.hpp"
 #include "mesh/v3.hpp"
+
+namespace sorvik {
 
 /// Writes "x y z".
 inline textWriter& operator<<(textWriter& out, v3<float> const& p) {
@@ -17,3 +19,5 @@ inline v3<float> readPoint(textScanner& in) {
     in.read(p.z);
     return p;
 }
+
+} // namespace sorvik

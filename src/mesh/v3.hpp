@@ -1,9 +1,9 @@
 #pragma once
 
+#include "base/processEnd.hpp"
+
 #include <cmath>
 #include <cstddef>
-#include <cstdlib>
-#include <iostream>
 #include <vector>
 
 /// A vector of three components that lie one after the other in memory. Every operation rounds to
@@ -53,8 +53,7 @@ T length(v3<T> const& a) {
 template <class T>
 void v3<T>::OP(v3 const& b, std::vector<double>& M, bool add) const {
     if (M.size() != 9) {
-        std::cout << "Fatal error. Size of v3 open product target is not 9. Exit. " << std::endl;
-        std::exit(-1);
+        sorvik::endWithLine("Fatal error. Size of v3 open product target is not 9. Exit. ", -1);
     }
     const T left[] = {x, y, z};
     const T right[] = {b.x, b.y, b.z};

@@ -116,6 +116,6 @@ public:
 
 private:
     std::string folder;
-    std::fstream cal;
+    std::ofstream cal;
     int nBodies = 0;
 };

@@ -1,16 +1,16 @@
 #include "nemoh/nemohIO.hpp"
 
+#include "base/files.hpp"
+#include "base/numberText.hpp"
+#include "base/processEnd.hpp"
 #include "io/reader.hpp"
-#include "io/sixDigits.hpp"
 #include "numerics/matrixOp.hpp"
 
 #include <array>
 #include <cassert>
 #include <cmath>
-#include <cstdlib>
-#include <iostream>
+#include <ostream>
 #include <limits>
-#include <locale>
 
 // Nemoh.cal is read by line: values first, then a comment. Sections, in Nemoh's order:
 //
@@ -74,22 +74,18 @@ nemohIO::nemohIO(std::string path) : folder(std::move(path)) {
     for (const char* name : {"", "/mesh", "/results"}) {
         reader::makeFolder(folder + name);
     }
-    cal.imbue(std::locale::classic());
 }
 
 std::string nemohIO::printVal(double value) {
     using limits = std::numeric_limits<int>;
     const bool isInteger =
         value >= limits::min() && value <= limits::max() && value == std::trunc(value);
-    char text[sixDigits::room];
-    return std::string(text, sixDigits::write(text, value)) + (isInteger ? ". " : " ");
+    return sorvik::numberText(value) + (isInteger ? ". " : " ");
 }
 
 void nemohIO::printCalHdr(const std::string& name, int number) {
     if (!cal.good()) {
-        std::cout << "FATAL ERROR: Cannot write to or open " << folder << "/Nemoh.cal"
-                  << " for some reason." << std::endl;
-        std::exit(1);
+        sorvik::endWithError("Cannot write to or open " + folder + "/Nemoh.cal for some reason.");
     }
     cal << "--- " << name << ' ';
     std::ptrdiff_t dashes = headerLength;
@@ -101,13 +97,13 @@ void nemohIO::printCalHdr(const std::string& name, int number) {
     cal << std::string(dashes > 0 ? static_cast<std::size_t>(dashes) : 0, '-') << '\n';
 
     // Of the two control files only Nemoh.cal is worth stopping for.
-    std::ofstream(folder + "/input_solver.txt", std::ios::binary) << solverSettings;
+    sorvik::files::create(folder + "/input_solver.txt") << solverSettings;
 }
 
 void nemohIO::setEnv(double const& rho, double const& gravity, double const& depth, double const& x,
                      double const& y, int bodies) {
     if (!cal.is_open()) {
-        cal.open(folder + "/Nemoh.cal", std::ios::out | std::ios::trunc | std::ios::binary);
+        cal = sorvik::files::create(folder + "/Nemoh.cal");
     }
     printCalHdr("Environment", noNumber);
     cal << printVal(rho) << "\t ! rho kg/m3 \n"

@@ -1,32 +1,20 @@
 #include "nemoh/nemohIO.hpp"
 
-#include "io/reader.hpp"
+#include "base/files.hpp"
+#include "base/processEnd.hpp"
 #include "nemoh/fatalLine.hpp"
 
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <cstdlib>
 #include <iostream>
 #include <limits>
-#include <locale>
 #include <string>
 
 // Values are picked out of lines by their place: a section is found by its header, lines are
 // counted from there, and what follows the values of a line is a comment.
 
 namespace {
-
-/// Opens a text file of numbers; the caller finds out whether that worked.
-std::ifstream openText(const std::string& name) {
-    std::ifstream in;
-    in.imbue(std::locale::classic());
-    // A folder of that name would open too.
-    if (reader::fileExist(name, false)) {
-        in.open(name, std::ios::binary);
-    }
-    return in;
-}
 
 /// Ends the process with the line that `in` stands in, whatever state it is in.
 [[noreturn]] void fatalHere(std::istream& in, const std::string& file,
@@ -41,7 +29,7 @@ std::ifstream openText(const std::string& name) {
         std::getline(in, text);
         ++number;
     } while (in.good() && in.tellg() <= place);
-    fatalLine(file, number, expected, text);
+    sorvik::fatalLine(file, number, expected, text);
 }
 
 template <class T>
@@ -68,10 +56,9 @@ void findSection(std::istream& in, const std::string& file, const char* key) {
 }
 
 std::ifstream openCal(const std::string& file) {
-    std::ifstream in = openText(file);
+    std::ifstream in = sorvik::files::open(file);
     if (!in.is_open()) {
-        std::cout << "FATAL ERROR: Could not open file " << file << ". Exiting." << std::endl;
-        std::exit(1);
+        sorvik::endWithError("Could not open file " + file + ". Exiting.");
     }
     return in;
 }
@@ -173,7 +160,7 @@ int nemohIO::readBody(int body, int& motions, int& forces, std::vector<double>& 
 }
 
 double nemohIO::readC(const std::string& folder, std::vector<double>& stiffness) {
-    std::ifstream matrix = openText(folder + "/KH.dat");
+    std::ifstream matrix = sorvik::files::open(folder + "/KH.dat");
     if (!matrix.is_open()) {
         warnMissing(folder + "/KH.dat", "No hydrostatic stiffness read.");
     }
@@ -182,7 +169,7 @@ double nemohIO::readC(const std::string& folder, std::vector<double>& stiffness)
     }
 
     const std::string file = folder + "/Hydrostatics.dat";
-    std::ifstream in = openText(file);
+    std::ifstream in = sorvik::files::open(file);
     if (!in.is_open()) {
         warnMissing(file, "No volume read from Nemoh results.");
         return -1.0;

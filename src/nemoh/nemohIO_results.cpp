@@ -1,14 +1,14 @@
 #include "nemoh/nemohIO.hpp"
 
-#include "io/classicText.hpp"
-#include "io/reader.hpp"
+#include "base/classicText.hpp"
+#include "base/files.hpp"
+#include "base/processEnd.hpp"
 #include "nemoh/fatalLine.hpp"
 
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <fstream>
 #include <iostream>
 #include <string>
@@ -44,11 +44,6 @@ struct dofCount {
     std::int64_t forces = 0;
 };
 
-[[noreturn]] void endWith(const std::string& message) {
-    std::cout << "FATAL ERROR: " << message << std::endl;
-    std::exit(1);
-}
-
 /// Adds up the bodies from 1 to `bodies`, and body 1 in any case.
 dofCount countDofs(const nemohIO& project, int bodies) {
     dofCount all;
@@ -57,7 +52,7 @@ dofCount countDofs(const nemohIO& project, int bodies) {
         int motions = 0;
         int forces = 0;
         if (project.readBody(body, motions, forces, refPoint) != 0) {
-            endWith("Can not find Body " + std::to_string(body) + " in Nemoh.cal file");
+            sorvik::endWithError("Can not find Body " + std::to_string(body) + " in Nemoh.cal file");
         }
         all.motions += motions;
         all.forces += forces;
@@ -72,12 +67,12 @@ public:
     resultLines(const std::string& project, const std::string& name) {
         for (const char* folder : {"/Results/", "/results/"}) {
             file = (project + folder).append(name);
-            if (reader::fileExist(file, false)) {
-                in.open(file, std::ios::binary);
+            in = sorvik::files::open(file);
+            if (in.is_open()) {
                 return;
             }
         }
-        endWith("Could not open file " + file + ". Exiting.");
+        sorvik::endWithError("Could not open file " + file + ". Exiting.");
     }
 
     bool next() {
@@ -97,7 +92,7 @@ public:
     char mark() const { return text[start]; }
 
     [[noreturn]] void fatal(const std::string& expected) const {
-        fatalLine(file, std::max(number, 1), expected, text);
+        sorvik::fatalLine(file, std::max(number, 1), expected, text);
     }
 
 private:
@@ -110,7 +105,7 @@ private:
 
 /// Appends the pairs of a line. Its frequency is known from the case.
 void readPairs(const resultLines& lines, std::int64_t expected, columnPairs& pairs) {
-    classicText in(lines.line());
+    sorvik::classicText in(lines.line());
     double frequency = 0;
     in >> frequency;
     std::int64_t count = 0;

@@ -1,6 +1,6 @@
 #include "nemoh/setNemohCase.hpp"
 
-#include "io/reader.hpp"
+#include "base/files.hpp"
 #include "io/sorvikIO.hpp"
 #include "mesh/bodyMesh.hpp"
 #include "nemoh/nemohIO.hpp"
@@ -105,7 +105,7 @@ std::optional<projectMesh> placeMesh(const bodySettings& settings, const std::st
         sorvikIO::fileNameFromPath(file.substr(0, file.size() - extensionLength) + "_wetted.dat");
     mesh.updateWetSurface(cutLevel);
     const std::string target = folder + "/" + wetted.name;
-    std::ofstream out(target, std::ios::binary);
+    std::ofstream out = sorvik::files::create(target);
     wetted.points = out.is_open() ? mesh.nemoh_write(out) : 0;
     out.close();
     if (!out) {
@@ -122,7 +122,7 @@ bool copyFile(std::istream& in, const std::string& source, const std::string& ta
     if (std::filesystem::equivalent(source, target, ignored)) {
         return true; // Opening it for writing would empty it.
     }
-    std::ofstream out(target, std::ios::binary);
+    std::ofstream out = sorvik::files::create(target);
     // Inserting the buffer of an empty file counts as a failure.
     if (in.peek() != std::ifstream::traits_type::eof()) {
         out << in.rdbuf();
@@ -139,8 +139,8 @@ std::optional<projectMesh> keepMesh(const bodySettings& settings, const std::str
     projectMesh kept;
     kept.name = sorvikIO::fileNameFromPath(settings.meshName);
     std::cout << "mesh only name is: " << kept.name << std::endl;
-    std::ifstream in(settings.meshName, std::ios::binary);
-    if (!in.is_open() || !reader::fileExist(settings.meshName, false)) {
+    std::ifstream in = sorvik::files::open(settings.meshName);
+    if (!in.is_open()) {
         printFatal("Cannot find meshfile " + settings.meshName);
         return std::nullopt;
     }
@@ -149,7 +149,7 @@ std::optional<projectMesh> keepMesh(const bodySettings& settings, const std::str
         printFatal("Cannot write meshfile " + target);
         return std::nullopt;
     }
-    std::ifstream copy(target, std::ios::binary);
+    std::ifstream copy = sorvik::files::open(target);
     bodyMesh::nemoh_countMesh(copy, kept.points, kept.panels);
     if (!copy.is_open() || copy.bad()) {
         printFatal("Cannot read meshfile " + target);

@@ -1,6 +1,6 @@
 #include "numerics/linearSolve.hpp"
 
-#include "numerics/failure.hpp"
+#include "base/processEnd.hpp"
 #include "numerics/vectorKernels.hpp"
 
 #include <algorithm>
@@ -18,13 +18,13 @@ std::string shape(const mMatrix& M) {
 
 void checkSquare(const mMatrix& A) {
     if (A.rows != A.cols) {
-        matrixOp::fail("A matrix to eliminate must be square, found " + shape(A) + ".");
+        sorvik::endWithError("A matrix to eliminate must be square, found " + shape(A) + ".");
     }
 }
 
 void checkRows(const mMatrix& A, const mMatrix& b) {
     if (b.rows != A.rows) {
-        matrixOp::fail("A matrix of " + shape(A) + " needs a right-hand side of " +
+        sorvik::endWithError("A matrix of " + shape(A) + " needs a right-hand side of " +
                        std::to_string(A.rows) + " rows, found " + shape(b) + ".");
     }
 }
@@ -33,13 +33,13 @@ void checkShapes(const mMatrix& A, const mMatrix& x, const mMatrix& b) {
     checkSquare(A);
     checkRows(A, b);
     if (x.rows != b.rows || x.cols != b.cols) {
-        matrixOp::fail("A right-hand side of " + shape(b) +
+        sorvik::endWithError("A right-hand side of " + shape(b) +
                        " needs a solution of that size, found " + shape(x) + ".");
     }
 }
 
 void failSingular(const mMatrix& A) {
-    matrixOp::fail("A matrix of " + shape(A) + " is singular or has entries that are not finite.");
+    sorvik::endWithError("A matrix of " + shape(A) + " is singular or has entries that are not finite.");
 }
 
 /// The largest magnitude in each row, and then in each column of the matrix with its rows divided

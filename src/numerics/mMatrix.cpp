@@ -1,6 +1,6 @@
 #include "numerics/mMatrix.hpp"
 
-#include "numerics/failure.hpp"
+#include "base/processEnd.hpp"
 #include "numerics/matrixKernels.hpp"
 #include "numerics/vectorKernels.hpp"
 
@@ -9,7 +9,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <iostream>
-#include <sstream>
+#include <string>
 #include <utility>
 
 mMatrix::mMatrix(int rowCount, int colCount, double* entries)
@@ -85,9 +85,9 @@ void mMatrix::transpose() {
 void mMatrix::checkSize(std::vector<double>& storage, int offset) {
     const std::int64_t found = static_cast<std::int64_t>(storage.size()) - offset;
     if (found < static_cast<std::int64_t>(rows) * cols) {
-        std::ostringstream message;
-        message << "Wrong size of double vector X.\n cannot assign matrix of size : " << rows
-                << " x " << cols << " to vector of size " << found;
-        matrixOp::fail(message.str());
+        sorvik::endWithError(
+            "Wrong size of double vector X.\n cannot assign matrix of size : " +
+            std::to_string(rows) + " x " + std::to_string(cols) + " to vector of size " +
+            std::to_string(found));
     }
 }

@@ -1,6 +1,6 @@
 #include "waves/Jonswap.hpp"
 
-#include "io/memory.hpp"
+#include "base/memory.hpp"
 #include "io/reader.hpp"
 #include "numerics/matrixOp.hpp"
 #include "waves/angles.hpp"
@@ -19,12 +19,12 @@ Jonswap::Jonswap(const reader& config) : waveModel(config) {
     alpha = inputs.read<double>(prefix + "alpha", alpha);
     seed = inputs.read<int>(prefix + "seed", seed);
     const bool useRadians = inputs.read<int>(prefix + "useRadians", 0) != 0;
-    const double frequencyFactor = useRadians ? 1.0 : 2 * pi;
-    const double angleFactor = useRadians ? 1.0 : radiansPerDegree;
+    const double frequencyFactor = useRadians ? 1.0 : 2 * sorvik::pi;
+    const double angleFactor = useRadians ? 1.0 : sorvik::radiansPerDegree;
 
     const auto fp = inputs.read<double>(prefix + "fp", 0.1);
     if (!(fp > 0.0)) {
-        refuseInput(config, prefix + "fp", fp, "a peak frequency above zero");
+        sorvik::refuseInput(config, prefix + "fp", fp, "a peak frequency above zero");
     }
     omegaP = fp * frequencyFactor;
     const frequencyGrid grid = readGrid(config, frequencyFactor);
@@ -38,20 +38,20 @@ Jonswap::frequencyGrid Jonswap::readGrid(const reader& config, double frequencyF
     const inputMap& inputs = config.inputs;
     const int n = inputs.read<int>(prefix + "components", 100);
     if (n < 2) {
-        refuseInput(config, prefix + "components", n, "at least 2");
+        sorvik::refuseInput(config, prefix + "components", n, "at least 2");
     }
     // The component, its density, frequency, amplitude and phase.
-    if (!memory::canHold(static_cast<std::size_t>(n),
+    if (!sorvik::memory::canHold(static_cast<std::size_t>(n),
                          sizeof(waveComponent2D) + 4 * sizeof(double))) {
-        refuseInput(config, prefix + "components", n, "a number that fits into memory");
+        sorvik::refuseInput(config, prefix + "components", n, "a number that fits into memory");
     }
     const auto f0 = inputs.read<double>(prefix + "f0", 0.01);
     if (!(f0 > 0.0)) {
-        refuseInput(config, prefix + "f0", f0, "a frequency above zero");
+        sorvik::refuseInput(config, prefix + "f0", f0, "a frequency above zero");
     }
     const auto f1 = inputs.read<double>(prefix + "f1", 10.0);
     if (!(f1 > f0)) {
-        refuseInput(config, prefix + "f1", f1, "a frequency above " + prefix + "f0");
+        sorvik::refuseInput(config, prefix + "f1", f1, "a frequency above " + prefix + "f0");
     }
     const double first = f0 * frequencyFactor;
     return {first, (f1 * frequencyFactor - first) / (n - 1), n};
@@ -62,7 +62,7 @@ double Jonswap::setS(const double& omega) const {
     const double sigma = omegaP >= omega ? sigma1 : sigma2;
     const double offPeak = omega / omegaP - 1;
     const double r = std::exp(-(offPeak * offPeak) / (2 * sigma * sigma));
-    return 2 * pi * alpha * (g * g) * std::pow(omega, -5.0) *
+    return 2 * sorvik::pi * alpha * (g * g) * std::pow(omega, -5.0) *
            std::exp(-1.25 * std::pow(omegaP / omega, 4.0)) * std::pow(gamma, r);
 }
 
@@ -74,7 +74,7 @@ void Jonswap::fillSpectrum(const frequencyGrid& grid) {
     const double m0 = matrixOp::trapz(grid.count, grid.step, spectrum.data());
     const bool isHeightGiven = Hs > 0.0;
     if (!(m0 >= 0.0) || !std::isfinite(m0) || (isHeightGiven && m0 == 0.0)) {
-        refuseInput("The variance of the JONSWAP spectrum", m0,
+        sorvik::refuseInput("The variance of the JONSWAP spectrum", m0,
                     "a finite one above zero [m2]: check " + prefix +
                         "fp, f0, f1, gamma, sigma1, sigma2 and alpha");
     }

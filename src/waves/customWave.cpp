@@ -1,13 +1,13 @@
 #include "waves/customWave.hpp"
 
+#include "base/files.hpp"
+#include "base/processEnd.hpp"
 #include "io/printer.hpp"
 #include "io/reader.hpp"
 #include "io/sorvikIO.hpp"
 #include "numerics/matrixOp.hpp"
 #include "waves/angles.hpp"
 
-#include <cstdlib>
-#include <fstream>
 #include <iostream>
 
 customWave::customWave(const reader& config) : waveModel(config) {
@@ -33,16 +33,18 @@ void customWave::addWaveTrain(double direction, const std::vector<double>& ampli
                               std::vector<double>& frequencies, std::vector<double>& phases,
                               bool useRadians) {
     if (frequencies.size() != amplitudes.size() || phases.size() != amplitudes.size()) {
-        std::cout << "Fatal error: customWave component arrays must have the same size: Found "
-                  << amplitudes.size() << " amplitudes, " << frequencies.size()
-                  << " frequencies, and " << phases.size() << " phases." << std::endl;
-        std::exit(-1);
+        sorvik::endWithLine(
+            "Fatal error: customWave component arrays must have the same size: Found " +
+                std::to_string(amplitudes.size()) + " amplitudes, " +
+                std::to_string(frequencies.size()) + " frequencies, and " +
+                std::to_string(phases.size()) + " phases.",
+            -1);
     }
     const auto n = static_cast<int>(amplitudes.size());
     if (!useRadians) {
-        direction *= radiansPerDegree;
-        matrixOp::scale(n, 2 * pi, frequencies.data());
-        matrixOp::scale(n, radiansPerDegree, phases.data());
+        direction *= sorvik::radiansPerDegree;
+        matrixOp::scale(n, 2 * sorvik::pi, frequencies.data());
+        matrixOp::scale(n, sorvik::radiansPerDegree, phases.data());
     }
     addTrain(direction).setFrom_w(n, amplitudes.data(), frequencies.data(), phases.data());
 }
@@ -65,10 +67,10 @@ std::vector<double> readRow(std::istream& in, const std::string& fileName, const
 } // namespace
 
 void customWave::readFile(const std::string& name, bool useRadians) {
-    if (!reader::fileExist(name, false)) {
+    std::ifstream in = sorvik::files::open(name);
+    if (!in.is_open()) {
         printer::fatalError("Cannot read the wave file " + name + " of " + prefix + "file");
     }
-    std::ifstream in(name, std::ios::binary);
     double direction = 0.0;
     while (in >> direction >> std::ws) {
         const auto amplitudes = readRow(in, name, "amplitudes");

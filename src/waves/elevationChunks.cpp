@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace sorvik {
+
 using elevationKernel::tileSize;
 using elevationKernel::width;
 
@@ -152,3 +154,5 @@ void elevationChunks::place(std::size_t probePanel) {
         }
     }
 }
+
+} // namespace sorvik

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <vector>
 
+namespace sorvik {
+
 class timeInstants;
 
 /// How far the sums of `elevationChunks`, and their products with a ramp factor, may lie from those
@@ -70,3 +72,5 @@ private:
     std::vector<double> sineTiles;
     std::vector<double> values;
 };
+
+} // namespace sorvik

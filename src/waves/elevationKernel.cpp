@@ -5,6 +5,7 @@
 #define SORVIK_WIDE_VECTORS
 #endif
 
+namespace sorvik {
 namespace {
 
 constexpr std::size_t width = elevationKernel::width;
@@ -83,3 +84,5 @@ void elevationKernel::multiply(std::size_t count, std::size_t panels, const doub
     static const product chosen = fastest();
     chosen(count, panels, instants, probes, tiles);
 }
+
+} // namespace sorvik

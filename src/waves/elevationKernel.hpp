@@ -2,6 +2,8 @@
 
 #include <cstddef>
 
+namespace sorvik {
+
 /// The inner loops of the elevation table: products of panels of eight columns.
 ///
 /// A panel holds `count` rows of `width` doubles, row after row; a row belongs to one wave
@@ -22,3 +24,5 @@ void multiply(std::size_t count, std::size_t panels, const double* instants, con
               double* tiles);
 
 } // namespace elevationKernel
+
+} // namespace sorvik

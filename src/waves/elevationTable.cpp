@@ -1,12 +1,14 @@
 #include "waves/elevationTable.hpp"
 
+#include "base/textWriter.hpp"
 #include "io/printer.hpp"
-#include "io/textWriter.hpp"
 #include "waves/elevationChunks.hpp"
 #include "waves/waveModel.hpp"
 
 #include <algorithm>
 #include <cmath>
+
+namespace sorvik {
 
 namespace {
 
@@ -100,3 +102,5 @@ void writeElevationTable(waveModel& model, const std::vector<double>& x,
     }
     model.setTime(instants[instants.count() - 1]);
 }
+
+} // namespace sorvik

@@ -7,6 +7,8 @@
 
 class waveModel;
 
+namespace sorvik {
+
 /// Writes the surface elevations [m] at the points (x[i], y[i]) [m]: one line per instant, the time
 /// [s] and the elevations in point order, separated by tabs. Shows the progress on standard output
 /// and leaves the model at the last instant.
@@ -15,3 +17,5 @@ class waveModel;
 void writeElevationTable(waveModel& model, const std::vector<double>& x,
                          const std::vector<double>& y, const timeInstants& instants,
                          std::ostream& out);
+
+} // namespace sorvik

@@ -1,18 +1,17 @@
 #include "waves/inputCheck.hpp"
 
+#include "base/numberText.hpp"
 #include "io/printer.hpp"
 #include "io/reader.hpp"
 
-#include <sstream>
+namespace sorvik {
 
 void refuseInput(const std::string& name, const std::string& found, const std::string& expected) {
     printer::fatalError(name + " is " + found + ", expected " + expected);
 }
 
 void refuseInput(const std::string& name, double found, const std::string& expected) {
-    std::ostringstream text;
-    text << found;
-    refuseInput(name, text.str(), expected);
+    refuseInput(name, numberText(found), expected);
 }
 
 void refuseInput(const reader& config, const std::string& key, double fallback,
@@ -23,3 +22,5 @@ void refuseInput(const reader& config, const std::string& key, double fallback,
     }
     refuseInput(key, entry->second, expected);
 }
+
+} // namespace sorvik

@@ -4,6 +4,8 @@
 
 class reader;
 
+namespace sorvik {
+
 /// Ends the run with a fatal error: `name` is a key or a flag, `found` what stands there.
 [[noreturn]] void refuseInput(const std::string& name, const std::string& found,
                               const std::string& expected);
@@ -13,3 +15,5 @@ class reader;
 /// where it is not given.
 [[noreturn]] void refuseInput(const reader& config, const std::string& key, double fallback,
                               const std::string& expected);
+
+} // namespace sorvik

@@ -1,13 +1,13 @@
 #include "waves/numericTable.hpp"
 
-#include "io/reader.hpp"
+#include "base/files.hpp"
 #include "io/sorvikIO.hpp"
 
-#include <fstream>
+namespace sorvik {
 
 int readNumericTable(const std::string& fileName, std::vector<double>& values) {
-    std::ifstream in(fileName, std::ios::binary);
-    if (!in.is_open() || !reader::fileExist(fileName, false)) {
+    std::ifstream in = files::open(fileName);
+    if (!in.is_open()) {
         return 0;
     }
     const int columns = sorvikIO::readData<double>(in, values, 0);
@@ -25,3 +25,5 @@ int readNumericTable(const std::string& fileName, std::vector<double>& values) {
     std::vector<double> firstRow;
     return sorvikIO::readLine<double>(line, firstRow) == columns ? columns : 0;
 }
+
+} // namespace sorvik

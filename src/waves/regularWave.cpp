@@ -20,11 +20,11 @@ struct waveKey {
 
 /// The first one that the input gives counts.
 const waveKey waveKeys[] = {
-    {"period", true, [](double period) { return 2 * pi / period; }},
-    {"frequency", true, [](double frequency) { return 2 * pi * frequency; }},
+    {"period", true, [](double period) { return 2 * sorvik::pi / period; }},
+    {"frequency", true, [](double frequency) { return 2 * sorvik::pi * frequency; }},
     {"omega", true, [](double omega) { return omega; }},
     {"k", false, [](double k) { return k; }},
-    {"length", false, [](double length) { return 2 * pi / length; }},
+    {"length", false, [](double length) { return 2 * sorvik::pi / length; }},
 };
 
 bool isUsable(double value) {
@@ -43,7 +43,7 @@ regularWave::regularWave(const reader& config) : waveModel(config) {
     }
     const double useRadians = inputs.read<int>(prefix + "useRadians", 0);
     // Linear in the flag: pi/180 for 0, degrees, and 1 for 1, radians.
-    const double angleFactor = (1 - useRadians) * pi / 180 + useRadians;
+    const double angleFactor = (1 - useRadians) * sorvik::pi / 180 + useRadians;
     const double phase = inputs.read<double>(prefix + "phase", 0.0) * angleFactor;
     const double direction = inputs.read<double>(prefix + "direction", 0.0) * angleFactor;
     fillTrain(config, addTrain(direction), phase);
@@ -60,7 +60,7 @@ void regularWave::fillTrain(const reader& config, waveTrain& train, double phase
         const auto value = config.inputs.read<double>(key, 0.0);
         const double quantity = given.quantity(value);
         if (!isUsable(value) || !isUsable(quantity)) {
-            refuseInput(config, key, value, "a finite number other than zero");
+            sorvik::refuseInput(config, key, value, "a finite number other than zero");
         }
         if (given.isFrequency) {
             train.setFrom_w(1, &amplitude, &quantity, &phase);

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "base/files.hpp"
 #include "io/printer.hpp"
 #include "io/reader.hpp"
 
-#include <fstream>
 #include <string>
+
+namespace sorvik {
 
 /// Makes the folder, writes its file `name` through `write`, which is given the stream, and returns
 /// the path. A file that cannot be opened or written to its end is a fatal error.
@@ -12,14 +14,11 @@ template <class Write>
 std::string writeResult(const std::string& folder, const std::string& name, Write write) {
     reader::makeFolder(folder);
     std::string path = folder + "/" + name;
-    std::ofstream out(path, std::ios::binary);
-    if (out) {
-        write(out);
-        out.close();
-    }
-    if (!out) {
+    if (!files::write(path, write)) {
         printer::fatalError("Cannot write the file " + path +
                             ", expected a place that can be written to, and room on the disk");
     }
     return path;
 }
+
+} // namespace sorvik

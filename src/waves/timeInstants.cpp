@@ -1,5 +1,6 @@
 #include "waves/timeInstants.hpp"
 
+#include "base/numberText.hpp"
 #include "io/printer.hpp"
 #include "io/reader.hpp"
 #include "waves/inputCheck.hpp"
@@ -7,7 +8,8 @@
 
 #include <cmath>
 #include <cstddef>
-#include <sstream>
+
+namespace sorvik {
 
 namespace {
 
@@ -43,10 +45,8 @@ timeInstants readInstants(const reader& config) {
         refuseInput(config, stepKey, step, "a finite time step other than zero");
     }
     if (!std::isfinite(end - start)) {
-        std::ostringstream found;
-        found << "from " << start << " to " << end;
-        refuseInput("The time span of simulation.time.start and simulation.time.end", found.str(),
-                    "a finite one");
+        refuseInput("The time span of simulation.time.start and simulation.time.end",
+                    "from " + numberText(start) + " to " + numberText(end), "a finite one");
     }
     // From here on a double no longer tells the instants apart.
     constexpr double maxCount = 0x1p53;
@@ -56,3 +56,5 @@ timeInstants readInstants(const reader& config) {
     }
     return {start, step, count < 1.0 ? 0 : static_cast<std::int64_t>(count)};
 }
+
+} // namespace sorvik

@@ -6,6 +6,8 @@
 
 class reader;
 
+namespace sorvik {
+
 /// The instants [s] of a run: evenly spaced, computed as they are asked for, or listed.
 class timeInstants {
 public:
@@ -38,3 +40,5 @@ private:
 /// there is one, otherwise those of the input's start, end and step. None where the end lies before
 /// the start; a step or a span that cannot be used is fatal.
 timeInstants readInstants(const reader& config);
+
+} // namespace sorvik

@@ -62,8 +62,8 @@ void waveComponent2D::kinematics(const double& s, const double& z, double& u, do
 }
 
 void waveComponent2D::printInfo(std::ostream& out) const {
-    out << "Wave height (m): " << 2 * a << ", Period (s): " << 2 * pi / w
-        << ", Wave length (m): " << 2 * pi / k << ", Phase (deg): " << phi * 180 / pi << std::endl;
+    out << "Wave height (m): " << 2 * a << ", Period (s): " << 2 * sorvik::pi / w
+        << ", Wave length (m): " << 2 * sorvik::pi / k << ", Phase (deg): " << phi * 180 / sorvik::pi << std::endl;
 }
 
 std::istream& operator>>(std::istream& in, waveComponent2D& component) {

@@ -19,14 +19,14 @@ int waveElevation(int argc, const char** argv) {
     config.setupReadOnly(argc, argv);
     globals::set(config);
     const std::unique_ptr<waveModel> model(waveFactory::create(config));
-    waveProbes probes;
-    if (!findProbes(argc, argv, config.outputFolder, probes)) {
+    sorvik::waveProbes probes;
+    if (!sorvik::findProbes(argc, argv, config.outputFolder, probes)) {
         return -1;
     }
-    const timeInstants instants = readInstants(config);
+    const sorvik::timeInstants instants = sorvik::readInstants(config);
     const std::string path =
-        writeResult(config.outputFolder, "waveElevation.dat", [&](std::ostream& out) {
-            writeElevationTable(*model, probes.x, probes.y, instants, out);
+        sorvik::writeResult(config.outputFolder, "waveElevation.dat", [&](std::ostream& out) {
+            sorvik::writeElevationTable(*model, probes.x, probes.y, instants, out);
         });
     std::cout << "Wave elevation computed and printed to " << path << std::endl;
     return 0;

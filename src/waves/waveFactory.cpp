@@ -1,11 +1,11 @@
 #include "waves/waveFactory.hpp"
 
+#include "base/processEnd.hpp"
 #include "io/reader.hpp"
 #include "waves/Jonswap.hpp"
 #include "waves/customWave.hpp"
 #include "waves/regularWave.hpp"
 
-#include <cstdlib>
 #include <iostream>
 
 namespace {
@@ -20,7 +20,7 @@ namespace {
         std::cout << '\t' << entry->first << '\n';
     }
     std::cout << std::flush;
-    std::exit(1);
+    sorvik::processEnd(1);
 }
 
 } // namespace

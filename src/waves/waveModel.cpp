@@ -1,6 +1,6 @@
 #include "waves/waveModel.hpp"
 
-#include "io/platform.hpp"
+#include "base/platform.hpp"
 #include "io/printer.hpp"
 #include "io/reader.hpp"
 #include "numerics/matrixOp.hpp"
@@ -29,12 +29,12 @@ waveModel::waveModel(const reader& config) {
 
 waveTrain& waveModel::addTrain(double direction) {
     if (!(depth > 0.0)) {
-        refuseInput("The water depth", depth,
+        sorvik::refuseInput("The water depth", depth,
                     "one above zero [m]: environment.wave.depth, or environment.waterLevel less "
                     "environment.ground.level");
     }
     if (gravity == 0.0) {
-        refuseInput("environment.gravity", gravity, "a number other than zero");
+        sorvik::refuseInput("environment.gravity", gravity, "a number other than zero");
     }
     return trainList.emplace_back(direction, density, gravity, depth);
 }
@@ -60,7 +60,7 @@ void waveModel::setTime(const double& t) {
 double waveModel::rampFactorAt(double t) const {
     constexpr double shortestRamp = 1e-12; // s
     const double share = std::min(t / std::max(rampTime, shortestRamp), 1.0);
-    return (std::sin((share - 0.5) * pi) + 1) * 0.5;
+    return (std::sin((share - 0.5) * sorvik::pi) + 1) * 0.5;
 }
 
 double waveModel::sumOfEta(double x, double y) const {
@@ -184,7 +184,7 @@ namespace {
 
 int freshSeed() {
     try {
-        std::random_device device(platform::randomSource);
+        std::random_device device(sorvik::platform::randomSource);
         // -1 would not reproduce the phases.
         constexpr unsigned askForFresh = 0xFFFFFFFF;
         unsigned seed = askForFresh;
@@ -194,7 +194,7 @@ int freshSeed() {
         return static_cast<int>(seed);
     } catch (const std::exception& error) {
         printer::fatalError(std::string("Cannot draw a seed for random phases from ") +
-                            platform::randomSource + ": " + error.what() +
+                            sorvik::platform::randomSource + ": " + error.what() +
                             ". Give one as environment.wave.seed.");
     }
 }
@@ -212,7 +212,7 @@ int waveModel::uniformPhaseDistribution(int seed, int n, double* phases) {
         const auto low = static_cast<double>(random());
         const auto high = static_cast<double>(random());
         const double share = (low + high * 0x1p32) * 0x1p-64;
-        phases[i] = 2 * pi * std::min(share, below1);
+        phases[i] = 2 * sorvik::pi * std::min(share, below1);
     }
     return seed;
 }

@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace sorvik {
+
 using elevationKernel::width;
 
 std::vector<planeWave> planeWavesOf(const waveModel& model) {
@@ -103,3 +105,5 @@ void phasorTurn::apply(const double* panel, double* turned) const {
         }
     }
 }
+
+} // namespace sorvik

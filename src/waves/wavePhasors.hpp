@@ -4,9 +4,11 @@
 #include <cstdint>
 #include <vector>
 
-class timeInstants;
 class waveModel;
 
+namespace sorvik {
+
+class timeInstants;
 /// One component of a sea state with the direction it travels in.
 struct planeWave {
     double amplitude;  ///< m
@@ -82,3 +84,5 @@ private:
     std::vector<double> cosines;
     std::vector<double> sines;
 };
+
+} // namespace sorvik

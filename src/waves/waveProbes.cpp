@@ -1,18 +1,20 @@
 #include "waves/waveProbes.hpp"
 
-#include "io/memory.hpp"
+#include "base/memory.hpp"
+#include "base/numberText.hpp"
 #include "io/reader.hpp"
 #include "waves/inputCheck.hpp"
 #include "waves/numericTable.hpp"
 #include "waves/resultFile.hpp"
 
 #include <algorithm>
-#include <cctype>
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
 #include <iostream>
 #include <limits>
+
+namespace sorvik {
 
 namespace {
 
@@ -27,7 +29,7 @@ struct probeGrid {
 };
 
 double lengthArgument(const char* name, const char* text) {
-    const double length = std::strtod(text, nullptr);
+    const double length = leadingNumber(text);
     if (!std::isfinite(length)) {
         refuseInput(name, text, "a finite length");
     }
@@ -89,14 +91,14 @@ bool readProbes(const std::string& fileName, waveProbes& probes) {
 
 /// Whether an argument belongs to a list of numbers, rather than being the next flag.
 bool isListed(const char* argument) {
-    return argument[0] != '-' || std::isdigit(static_cast<unsigned char>(argument[1])) != 0;
+    return argument[0] != '-' || isDigit(argument[1]);
 }
 
 /// Takes pairs of x and y up to the next flag; a last one without its y is dropped.
 void takePositions(int count, const char** values, waveProbes& probes) {
     for (int i = 0; i + 1 < count && isListed(values[i]) && isListed(values[i + 1]); i += 2) {
-        probes.x.push_back(std::strtod(values[i], nullptr));
-        probes.y.push_back(std::strtod(values[i + 1], nullptr));
+        probes.x.push_back(leadingNumber(values[i]));
+        probes.y.push_back(leadingNumber(values[i + 1]));
     }
 }
 
@@ -122,3 +124,5 @@ bool findProbes(int argc, const char** argv, const std::string& folder, waveProb
     }
     return true;
 }
+
+} // namespace sorvik

@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+namespace sorvik {
+
 /// Horizontal positions [m] at which the surface elevation is asked for.
 struct waveProbes {
     std::vector<double> x;
@@ -15,3 +17,5 @@ struct waveProbes {
 /// A grid is also written to "waveDomain.dat" in `folder`. Returns false, with a message, for a
 /// file of positions that cannot be used; a grid that cannot be used is fatal.
 bool findProbes(int argc, const char** argv, const std::string& folder, waveProbes& probes);
+
+} // namespace sorvik

@@ -1,6 +1,6 @@
 #include "waves/waveTrain.hpp"
 
-#include "io/memory.hpp"
+#include "base/memory.hpp"
 #include "waves/angles.hpp"
 
 #include <algorithm>
@@ -8,7 +8,7 @@
 #include <iostream>
 
 waveTrain::waveTrain(double directionRadians, double density, double gravity, double depth)
-    : direction(180 * directionRadians / pi), rho(density), g(gravity), h(depth), influence(depth),
+    : direction(180 * directionRadians / sorvik::pi), rho(density), g(gravity), h(depth), influence(depth),
       cosine(std::cos(directionRadians)), sine(std::sin(directionRadians)) {}
 
 double waveTrain::dispersionRelationFrom_w(const double& omega, const double& g, const double& h) {
@@ -16,7 +16,7 @@ double waveTrain::dispersionRelationFrom_w(const double& omega, const double& g,
     constexpr int maxNewtonSteps = 500;
     const double k0 = omega * omega / g;
     double x = k0 * h;
-    if (x > 2 * pi) {
+    if (x > 2 * sorvik::pi) {
         return k0;
     }
     const auto residualAt = [&](double kh) { return g / h * kh * std::tanh(kh) - omega * omega; };
@@ -60,7 +60,7 @@ void waveTrain::updateInfluence() {
         return one.waveNumber() < other.waveNumber();
     });
     if (longest != list.end()) {
-        influence = std::min(2 * pi / longest->waveNumber(), h);
+        influence = std::min(2 * sorvik::pi / longest->waveNumber(), h);
     }
 }
 
@@ -111,13 +111,13 @@ std::istream& operator>>(std::istream& in, waveTrain& train) {
     train.direction = 0.0;
     train.count = 0;
     in >> train.direction >> train.count;
-    const double radians = train.direction * radiansPerDegree;
+    const double radians = train.direction * sorvik::radiansPerDegree;
     train.cosine = std::cos(radians);
     train.sine = std::sin(radians);
 
     train.list.clear();
     const auto listed = static_cast<std::size_t>(std::max(train.count, 0));
-    if (!memory::canHold(listed, sizeof(waveComponent2D))) {
+    if (!sorvik::memory::canHold(listed, sizeof(waveComponent2D))) {
         in.setstate(std::ios::failbit);
         return in;
     }

@@ -1,4 +1,4 @@
-#include "io/classicText.hpp"
+#include "base/classicText.hpp"
 #include "io/inputMap.hpp"
 #include "io/sorvikIO.hpp"
 #include "support/files.hpp"
@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <map>
 #include <sstream>
+
+using namespace sorvik;
 
 namespace {
 
@@ -58,7 +60,7 @@ TEST(readInputStream, nestsAHundredBlocks) {
         return text + "x = 1" + std::string(static_cast<std::size_t>(depth), '}');
     };
     EXPECT_EQ(read(nested(sorvikIO::maxNesting)).begin()->second, "1");
-    EXPECT_EXIT_SAYING(read(nested(100'000)), 1, "Line 102 of the input opens block number 101");
+    EXPECT_END_SAYING(read(nested(100'000)), 1, "Line 102 of the input opens block number 101");
     EXPECT_EQ(read("a = " + std::string(100'000, '[') + "1" + std::string(100'000, ']')),
               (entries{{"a", "1"}}));
 }
@@ -68,7 +70,7 @@ TEST(readInputStream, limitsWhatBlocksAddToKeys) {
     for (int i = 0; i < 200; ++i) {
         text += "\na" + std::to_string(i) + " = 1";
     }
-    EXPECT_EXIT_SAYING(read(text), 1, "kkkk..., add more than 67108864 characters");
+    EXPECT_END_SAYING(read(text), 1, "kkkk..., add more than 67108864 characters");
 }
 
 // Every pass resolves one link: 10000 takes from 10001, and so on.
@@ -122,7 +124,7 @@ TEST(lookupKey, findsKeysInAStream) {
         EXPECT_EQ(sorvikIO::lookupKey(in, key), value) << key;
     }
     std::istringstream in(text);
-    EXPECT_EXIT_SAYING(sorvikIO::findKey(in, "empty"), 1,
+    EXPECT_END_SAYING(sorvikIO::findKey(in, "empty"), 1,
                        "Key empty has no value in the input file!");
 }
 

@@ -1,6 +1,6 @@
 #include "support/numbers.hpp"
-#include "io/sixDigits.hpp"
-#include "io/textScanner.hpp"
+#include "base/sixDigits.hpp"
+#include "base/textScanner.hpp"
 #include "support/files.hpp"
 
 #include <cmath>
@@ -8,6 +8,8 @@
 #include <sstream>
 
 #include <gtest/gtest.h>
+
+using namespace sorvik;
 
 namespace {
 

@@ -97,7 +97,7 @@ TEST(v3, addsOuterProducts) {
     v3<float>{16777216, 0, 0}.OP({1.0000001F, 0, 0}, M, false);
     EXPECT_EQ(M[0], 16777218.0);
     std::vector<double> small(8);
-    EXPECT_EXIT_SAYING((v3<float>().OP({}, small, false)), 255,
+    EXPECT_END_SAYING((v3<float>().OP({}, small, false)), -1,
                        "Fatal error. Size of v3 open product target is not 9. Exit. \n");
 }
 

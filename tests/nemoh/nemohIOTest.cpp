@@ -87,7 +87,7 @@ TEST_F(nemohProject, readsTheCaseBack) {
 TEST_F(nemohProject, endsTheRunAtADamagedCase) {
     const auto read = [&] { nemoh.readCase(nFreqs, first, nDirections, second); };
     const std::string file = project.path("Nemoh.cal");
-    EXPECT_EXIT_SAYING(read(), 1, "FATAL ERROR: Could not open file " + file + ". Exiting.\n");
+    EXPECT_END_SAYING(read(), 1, "FATAL ERROR: Could not open file " + file + ". Exiting.\n");
     const char* const cases[][3] = {
         {"--- Desc", "---Desc", "39: expected the section \"--- Description\" before it"},
         {"1\t ! number of b", "x\t ! b", "7: expected the number of bodies, found \"x\t ! b"},
@@ -95,7 +95,7 @@ TEST_F(nemohProject, endsTheRunAtADamagedCase) {
         {"1 2 0.01", "1 1000001 0", "27: expected the number of frequencies from 0 to"}};
     for (const auto& [old, by, message] : cases) {
         change(old, by);
-        EXPECT_EXIT_SAYING(read(), 1, file + ", line " + message);
+        EXPECT_END_SAYING(read(), 1, file + ", line " + message);
     }
 }
 
@@ -119,7 +119,7 @@ TEST_F(nemohProject, readsHydrostatics) {
     EXPECT_EQ(nemohIO::readC(project.path(), first), 0.2417605);
     EXPECT_EQ(first, numbers({1, -2.5, 0.03}));
     writeFile(file, head + "****\n");
-    EXPECT_EXIT_SAYING(nemohIO::readC(project.path(), first), 1,
+    EXPECT_END_SAYING(nemohIO::readC(project.path(), first), 1,
                        file + ", line 4: expected the displ");
     EXPECT_EQ(outputOf([&] { EXPECT_EQ(nemohIO::readC("none", first), -1.0); }),
               "WARNING: none/KH.dat was not found. No hydrostatic stiffness read.\n"
@@ -158,8 +158,8 @@ TEST_F(nemohProject, endsTheRunAtDamagedResults) {
     describeTwoBodies();
     const auto read = [&](int zones) { nemoh.readExcitation(2, zones, 2, first, second); };
     const std::string missing = project.path("results/ExcitationForce.tec");
-    EXPECT_EXIT_SAYING(read(4), 1, "FATAL ERROR: Could not open file " + missing + ". Exiting.\n");
-    EXPECT_EXIT_SAYING(nemoh.readCoeffs(2, 3, first, second), 1,
+    EXPECT_END_SAYING(read(4), 1, "FATAL ERROR: Could not open file " + missing + ". Exiting.\n");
+    EXPECT_END_SAYING(nemoh.readCoeffs(2, 3, first, second), 1,
                        "bodies: 3\nWarning: ndofs for body 3 were not found\nFATAL ERROR: Can not "
                        "find Body 3 in Nemoh.cal file\n");
     // Lines 1 to 5 are the head; zones begin at 6, 9, 12 and 15, and 17 is the last line.
@@ -173,7 +173,7 @@ TEST_F(nemohProject, endsTheRunAtDamagedResults) {
     for (const auto& [zones, old, by, message] : cases) {
         const std::string file =
             change(old, by, "RadiationCoefficients.tec", "results/ExcitationForce.tec");
-        EXPECT_EXIT_SAYING(read(zones), 1, file + ", line " + message);
+        EXPECT_END_SAYING(read(zones), 1, file + ", line " + message);
     }
 }
 

@@ -46,13 +46,13 @@ TEST(linearSolve, tellsSingularMatricesFromOddUnits) {
 TEST(linearSolve, endsTheProcessWithAMessage) {
     numbers A = {1, 2, 2, 4}, six(6, 1.0), five(5);
     mMatrix square(2, 2, A), wide(2, 3, six), tall(3, 2, six), narrow(2, 1, six);
-    EXPECT_EXIT_SAYING(matrixOp::invert(A, 2), 1, "FATAL ERROR: A matrix of 2 x 2 is singular");
-    EXPECT_EXIT_SAYING(matrixOp::solveAxb(square, &wide, &wide), 1, "2 x 2 is singular");
-    EXPECT_EXIT_SAYING(matrixOp::redUpTri(wide, nullptr), 1, "square, found 2 x 3.\n");
-    EXPECT_EXIT_SAYING(matrixOp::redUpTri(square, &tall), 1, "of 2 rows, found 3 x 2.\n");
-    EXPECT_EXIT_SAYING(matrixOp::solveAxb(square, &narrow, &wide), 1, "found 2 x 1.\n");
-    EXPECT_EXIT_SAYING(wide.checkSize(five, 0), 1, "size : 2 x 3 to vector of size 5\n");
-    EXPECT_EXIT_SAYING(mMatrix(50000, 50000, six, 2), 1,
+    EXPECT_END_SAYING(matrixOp::invert(A, 2), 1, "FATAL ERROR: A matrix of 2 x 2 is singular");
+    EXPECT_END_SAYING(matrixOp::solveAxb(square, &wide, &wide), 1, "2 x 2 is singular");
+    EXPECT_END_SAYING(matrixOp::redUpTri(wide, nullptr), 1, "square, found 2 x 3.\n");
+    EXPECT_END_SAYING(matrixOp::redUpTri(square, &tall), 1, "of 2 rows, found 3 x 2.\n");
+    EXPECT_END_SAYING(matrixOp::solveAxb(square, &narrow, &wide), 1, "found 2 x 1.\n");
+    EXPECT_END_SAYING(wide.checkSize(five, 0), 1, "size : 2 x 3 to vector of size 5\n");
+    EXPECT_END_SAYING(mMatrix(50000, 50000, six, 2), 1,
                        "FATAL ERROR: Wrong size of double vector X.\n cannot assign");
 }
 

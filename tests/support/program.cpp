@@ -4,7 +4,6 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <iostream>
 
 #ifndef _WIN32
 #include <sys/wait.h>
@@ -16,8 +15,7 @@ std::string quoted(const std::string& word) {
     return '"' + word + '"';
 }
 
-} // namespace
-
+/// The status of a process that ended with `result`, as the system gives it: 128 + n for signal n.
 int statusOf(int result) {
 #ifdef _WIN32
     return result & 0xFF;
@@ -25,6 +23,8 @@ int statusOf(int result) {
     return WIFEXITED(result) ? WEXITSTATUS(result) : 128 + WTERMSIG(result);
 #endif
 }
+
+} // namespace
 
 programRun runProgram(const std::vector<std::string>& arguments, const std::string& folder) {
     const temporaryFolder streams;
@@ -38,8 +38,4 @@ programRun runProgram(const std::vector<std::string>& arguments, const std::stri
     const int status = statusOf(std::system(command.c_str()));
     std::filesystem::current_path(before);
     return {status, readFile(streams.path("out")), readFile(streams.path("err"))};
-}
-
-void showOutputAsError() {
-    std::cout.rdbuf(std::cerr.rdbuf());
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/processEnd.hpp"
+
 #include <string>
 #include <vector>
 
@@ -17,22 +19,6 @@ struct programRun {
 /// special to a shell between double quotes.
 programRun runProgram(const std::vector<std::string>& arguments, const std::string& folder = "");
 
-/// Runs `statement` in a process of its own and expects it to end with `status` and with an output
-/// that contains `text` literally.
-#define EXPECT_EXIT_SAYING(statement, status, text)                                                \
-    EXPECT_EXIT(                                                                                   \
-        {                                                                                          \
-            showOutputAsError();                                                                   \
-            statement;                                                                             \
-        },                                                                                         \
-        [&](int result) { return statusOf(result) == (status); }, testing::HasSubstr(text))
-
-/// The status of a process that ended with `result`, as the system gives it: 128 + n for signal n.
-int statusOf(int result);
-
-/// Sends standard output to standard error, where death tests look.
-void showOutputAsError();
-
 /// What `action` prints to standard output.
 template <class Action>
 std::string outputOf(Action action) {
@@ -40,3 +26,27 @@ std::string outputOf(Action action) {
     action();
     return testing::internal::GetCapturedStdout();
 }
+
+/// How `action` ends the process, were it not for the test; the status is -999 where it does not.
+template <class Action>
+programRun endOf(Action action) {
+    programRun end{-999, "", ""};
+    const auto before = sorvik::setEndHandler(sorvik::throwProcessEnd);
+    end.output = outputOf([&] {
+        try {
+            action();
+        } catch (const sorvik::processEnded& ended) {
+            end.status = ended.status;
+        }
+    });
+    sorvik::setEndHandler(before);
+    return end;
+}
+
+/// Expects that `statement` ends the process with the status `code` and says `words` literally.
+#define EXPECT_END_SAYING(statement, code, words)                                                  \
+    do {                                                                                           \
+        const programRun end = endOf([&] { statement; });                                          \
+        EXPECT_EQ(end.status, code);                                                               \
+        EXPECT_THAT(end.output, testing::HasSubstr(words));                                        \
+    } while (false)

@@ -7,6 +7,8 @@
 #include <string>
 #include <utility>
 
+using namespace sorvik;
+
 namespace {
 
 reader configWith(double ramp) {

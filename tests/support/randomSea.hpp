@@ -28,7 +28,7 @@ struct randomTable {
     testSea sea;
     std::vector<double> x;
     std::vector<double> y;
-    timeInstants instants;
+    sorvik::timeInstants instants;
 
 private:
     randomTable(std::mt19937&& random, int size);
@@ -36,4 +36,4 @@ private:
 
 /// The elevation table by the plain loop: `setTime`, `eta` of all points, and the stream's numbers.
 void writePlainTable(waveModel& model, const std::vector<double>& x, const std::vector<double>& y,
-                     const timeInstants& instants, std::ostream& out);
+                     const sorvik::timeInstants& instants, std::ostream& out);

@@ -9,6 +9,8 @@
 #include <sstream>
 #include <tuple>
 
+using namespace sorvik;
+
 namespace {
 
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "io/classicText.hpp"
+#include "base/classicText.hpp"
 #include "io/reader.hpp"
 #include "waves/globals.hpp"
 
@@ -12,7 +12,7 @@ inline reader configOf(const std::string& text) {
     globals::set(3, {0.0, 0.0, -9.81}, 1000.0, 1.0, 0.0);
     globals::m_isSet = false;
     reader config;
-    classicText in(text);
+    sorvik::classicText in(text);
     config.inputs = inputMap(in, '=', '.');
     return config;
 }

@@ -11,6 +11,8 @@
 #include <cmath>
 #include <memory>
 
+using namespace sorvik;
+
 namespace {
 
 constexpr double g = 9.81;

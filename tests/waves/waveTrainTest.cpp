@@ -7,6 +7,8 @@
 #include <cmath>
 #include <sstream>
 
+using sorvik::pi;
+
 namespace {
 
 constexpr double g = 9.81;

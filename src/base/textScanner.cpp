@@ -1,13 +1,16 @@
-#include "io/textScanner.hpp"
+#include "base/textScanner.hpp"
 
-#include "io/classicText.hpp"
-#include "io/littleEndian.hpp"
+#include "base/classicText.hpp"
+#include "base/littleEndian.hpp"
+#include "base/numberText.hpp"
 
 #include <algorithm>
 #include <charconv>
 #include <cstdint>
 #include <cstring>
 #include <type_traits>
+
+namespace sorvik {
 
 namespace {
 
@@ -18,10 +21,6 @@ constexpr std::ptrdiff_t usualLength = 48;
 
 bool isSpace(char c) {
     return c == ' ' || (c >= '\t' && c <= '\r');
-}
-
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
 }
 
 /// Whether `c` can stand anywhere in what the stream takes for a number.
@@ -249,3 +248,5 @@ bool textScanner::readAsStream(T& value) {
 template bool textScanner::read<float>(float&);
 template bool textScanner::read<double>(double&);
 template bool textScanner::read<int>(int&);
+
+} // namespace sorvik

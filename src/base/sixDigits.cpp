@@ -1,12 +1,14 @@
-#include "io/sixDigits.hpp"
+#include "base/sixDigits.hpp"
 
-#include "io/littleEndian.hpp"
+#include "base/littleEndian.hpp"
 
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <cstring>
+
+namespace sorvik {
 
 namespace {
 
@@ -251,3 +253,5 @@ char* sixDigits::write(char* out, double value) {
     }
     return std::to_chars(out, out + room, value, std::chars_format::general, 6).ptr;
 }
+
+} // namespace sorvik

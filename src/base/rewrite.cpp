@@ -1,21 +1,24 @@
-#include "io/rewrite.hpp"
+#include "base/rewrite.hpp"
+
+#include <filesystem>
 
 namespace fs = std::filesystem;
 
-fs::path rewriting::placeBeside(const std::string& source, const std::string& target) {
+namespace sorvik {
+
+std::string rewriting::placeBeside(const std::string& source, const std::string& target) {
     std::error_code failed;
     if (!fs::equivalent(source, target, failed)) {
         return {};
     }
     // A link stays a link to the file that is replaced.
-    fs::path path = fs::canonical(target, failed);
-    path += ".new";
+    const std::string path = fs::canonical(target, failed).string() + ".new";
     const bool isFree =
         !failed && fs::symlink_status(path, failed).type() == fs::file_type::not_found;
-    return isFree && std::ofstream(path).is_open() ? path : fs::path();
+    return isFree && files::create(path).is_open() ? path : std::string();
 }
 
-bool rewriting::settle(const fs::path& written, const std::string& target, bool isWhole) {
+bool rewriting::settle(const std::string& written, const std::string& target, bool isWhole) {
     std::error_code failed;
     if (isWhole) {
         fs::permissions(written, fs::status(target, failed).permissions(), failed);
@@ -27,3 +30,5 @@ bool rewriting::settle(const fs::path& written, const std::string& target, bool 
     fs::remove(written, failed);
     return false;
 }
+
+} // namespace sorvik

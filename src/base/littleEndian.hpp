@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <utility>
 
+namespace sorvik {
+
 /// Numbers from and to bytes, the lowest first, on any machine.
 namespace littleEndian {
 
@@ -31,3 +33,5 @@ void store(char* bytes, Number number) {
 }
 
 } // namespace littleEndian
+
+} // namespace sorvik

@@ -2,6 +2,8 @@
 
 #include <cstddef>
 
+namespace sorvik {
+
 /// Numbers as the default stream format writes them (general notation, six significant digits), a
 /// page of integer arithmetic where the stream takes a general formatter.
 namespace sixDigits {
@@ -26,3 +28,5 @@ std::size_t writeColumns(char*& out, const double* values, std::size_t count, do
                          double bound);
 
 } // namespace sixDigits
+
+} // namespace sorvik

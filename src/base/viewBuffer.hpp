@@ -3,6 +3,8 @@
 #include <streambuf>
 #include <string_view>
 
+namespace sorvik {
+
 /// A read-only stream buffer over text that someone else owns, so that reading a part of a text as
 /// a stream copies nothing. The text must outlive the buffer.
 class viewBuffer : public std::streambuf {
@@ -31,3 +33,5 @@ protected:
         return position;
     }
 };
+
+} // namespace sorvik

@@ -4,6 +4,8 @@
 #include <iosfwd>
 #include <vector>
 
+namespace sorvik {
+
 /// Reads white space, words, lines and numbers from a stream through large blocks.
 ///
 /// Every member does what the stream's own extraction of that kind does in the classic locale: the
@@ -52,3 +54,5 @@ private:
     bool ended = false;
     bool hasFailed;
 };
+
+} // namespace sorvik

@@ -1,9 +1,11 @@
-#include "io/memory.hpp"
+#include "base/memory.hpp"
 
-#include "io/platform.hpp"
+#include "base/platform.hpp"
 
 #include <cstdlib>
 #include <limits>
+
+namespace sorvik {
 
 bool memory::canHold(std::size_t count, std::size_t bytes) {
     if (bytes != 0 && count > std::numeric_limits<std::size_t>::max() / bytes) {
@@ -27,3 +29,5 @@ void memory::willUse(const void* begin, std::size_t bytes) {
         platform::useLargePages(begin, bytes);
     }
 }
+
+} // namespace sorvik

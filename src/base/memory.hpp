@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <vector>
 
+namespace sorvik {
+
 /// Questions about, and hints to, the system's memory.
 namespace memory {
 
@@ -22,3 +24,5 @@ void reserve(std::vector<T>& items, std::size_t count) {
 }
 
 } // namespace memory
+
+} // namespace sorvik

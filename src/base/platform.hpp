@@ -2,6 +2,8 @@
 
 #include <cstddef>
 
+namespace sorvik {
+
 /// What differs between the systems that the program runs on.
 namespace platform {
 
@@ -18,4 +20,9 @@ void useLargePages(const void* begin, std::size_t bytes);
 /// standard output be those that are written, with a line feed alone for an end of line.
 void holdStandardStreams();
 
+/// std::strtod in the classic locale, without the end of the number.
+double strtodClassic(const char* text);
+
 } // namespace platform
+
+} // namespace sorvik

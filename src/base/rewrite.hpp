@@ -1,19 +1,21 @@
 #pragma once
 
-#include <filesystem>
-#include <fstream>
+#include "base/files.hpp"
+
 #include <string>
+
+namespace sorvik {
 
 /// The steps of `rewrite`.
 namespace rewriting {
 
 /// A new file beside `target`, NAME.new, where that is the file `source` and files can be made
 /// there; otherwise no name.
-std::filesystem::path placeBeside(const std::string& source, const std::string& target);
+std::string placeBeside(const std::string& source, const std::string& target);
 
 /// Puts the file `written` in the place of `target`, or removes it unless it `isWhole`. Returns
 /// whether `target` has been replaced.
-bool settle(const std::filesystem::path& written, const std::string& target, bool isWhole);
+bool settle(const std::string& written, const std::string& target, bool isWhole);
 
 } // namespace rewriting
 
@@ -24,11 +26,12 @@ bool settle(const std::filesystem::path& written, const std::string& target, boo
 /// new one is complete: a full disk must not cost the only copy.
 template <class Write>
 bool rewrite(const std::string& source, const std::string& target, Write write) {
-    const std::filesystem::path beside = rewriting::placeBeside(source, target);
-    std::ofstream out(beside.empty() ? std::filesystem::path(target) : beside, std::ios::binary);
-    if (out) {
-        write(out);
+    const std::string beside = rewriting::placeBeside(source, target);
+    if (beside.empty()) {
+        return files::write(target, write);
     }
-    out.close();
-    return beside.empty() ? out.good() : rewriting::settle(beside, target, out.good());
+    const bool isWhole = files::write(beside, write);
+    return rewriting::settle(beside, target, isWhole);
 }
+
+} // namespace sorvik

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "io/sixDigits.hpp"
+#include "base/sixDigits.hpp"
 
 #include <algorithm>
 #include <charconv>
@@ -8,6 +8,8 @@
 #include <memory>
 #include <ostream>
 #include <string_view>
+
+namespace sorvik {
 
 /// Writes text and numbers to a stream through one large block. Numbers are those of the default
 /// stream format in the classic locale.
@@ -88,3 +90,5 @@ private:
     std::unique_ptr<char[]> block;
     char* end = block.get();
 };
+
+} // namespace sorvik

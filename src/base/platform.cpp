@@ -1,4 +1,4 @@
-#include "io/platform.hpp"
+#include "base/platform.hpp"
 
 #include <cstdint>
 #include <initializer_list>
@@ -9,35 +9,43 @@
 
 #include <fcntl.h>
 #include <io.h>
+#include <locale.h>
 
-const char* const platform::randomSource = "default";
+const char* const sorvik::platform::randomSource = "default";
 
-bool platform::hasMemory(std::size_t /*bytes*/) {
+bool sorvik::platform::hasMemory(std::size_t /*bytes*/) {
     return true; // The system promises only what it has: an allocation tells.
 }
 
-void platform::useLargePages(const void* /*begin*/, std::size_t /*bytes*/) {}
+void sorvik::platform::useLargePages(const void* /*begin*/, std::size_t /*bytes*/) {}
 
-void platform::holdStandardStreams() {
+void sorvik::platform::holdStandardStreams() {
     _setmode(_fileno(stdout), _O_BINARY);
+}
+
+double sorvik::platform::strtodClassic(const char* text) {
+    static const _locale_t classic = _create_locale(LC_ALL, "C");
+    return _strtod_l(text, nullptr, classic);
 }
 
 #else
 
 #include <fcntl.h>
+#include <locale.h>
+#include <stdlib.h>
 #include <sys/mman.h>
 #include <unistd.h>
 
-const char* const platform::randomSource = "/dev/urandom";
+const char* const sorvik::platform::randomSource = "/dev/urandom";
 
-bool platform::hasMemory(std::size_t bytes) {
+bool sorvik::platform::hasMemory(std::size_t bytes) {
     const long pages = sysconf(_SC_PHYS_PAGES);
     const long pageSize = sysconf(_SC_PAGESIZE);
     return pages <= 0 || pageSize <= 0 ||
            bytes / static_cast<std::size_t>(pageSize) < static_cast<std::size_t>(pages);
 }
 
-void platform::useLargePages(const void* begin, std::size_t bytes) {
+void sorvik::platform::useLargePages(const void* begin, std::size_t bytes) {
 #ifdef MADV_HUGEPAGE
     const long pageSize = sysconf(_SC_PAGESIZE);
     if (pageSize <= 0 || bytes < static_cast<std::size_t>(pageSize)) {
@@ -54,13 +62,18 @@ void platform::useLargePages(const void* begin, std::size_t bytes) {
 #endif
 }
 
-void platform::holdStandardStreams() {
+void sorvik::platform::holdStandardStreams() {
     for (const int stream : {0, 1, 2}) {
         // A file that is opened gets the lowest free number.
         if (fcntl(stream, F_GETFD) == -1) {
             open("/dev/null", O_RDWR);
         }
     }
+}
+
+double sorvik::platform::strtodClassic(const char* text) {
+    static const locale_t classic = newlocale(LC_ALL_MASK, "C", nullptr);
+    return strtod_l(text, nullptr, classic);
 }
 
 #endif

@@ -1,10 +1,12 @@
 #pragma once
 
-#include "io/viewBuffer.hpp"
+#include "base/viewBuffer.hpp"
 
 #include <istream>
 #include <locale>
 #include <string_view>
+
+namespace sorvik {
 
 /// An input stream over text that someone else owns, in the classic locale whatever the user's is.
 class classicText : private viewBuffer, public std::istream {
@@ -13,3 +15,5 @@ public:
         std::istream::imbue(std::locale::classic());
     }
 };
+
+} // namespace sorvik

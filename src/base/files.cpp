@@ -1,0 +1,58 @@
+#include "base/files.hpp"
+
+#include <cstdio>
+#include <filesystem>
+#include <locale>
+
+namespace fs = std::filesystem;
+
+namespace sorvik {
+
+std::ifstream files::open(const std::string& path) {
+    std::ifstream in;
+    in.imbue(std::locale::classic());
+    // A folder opens like a file but cannot be read like one.
+    std::error_code ignored;
+    if (fs::is_directory(path, ignored)) {
+        in.setstate(std::ios::failbit);
+    } else {
+        in.open(path, std::ios::binary);
+    }
+    return in;
+}
+
+bool files::canOpen(const std::string& path) {
+    return open(path).is_open();
+}
+
+std::ofstream files::create(const std::string& path) {
+    std::ofstream out;
+    out.imbue(std::locale::classic());
+    out.open(path, std::ios::binary);
+    return out;
+}
+
+bool files::makeFolder(const std::string& path) {
+    std::error_code ignored;
+    fs::create_directory(path, ignored);
+
+    // A file of the probe's name may be the user's: it is opened without changing it.
+    const std::string probe = path + "/test.txt";
+    const bool wasThere = fs::exists(fs::symlink_status(probe, ignored));
+    const bool isWritable = std::ofstream(probe, std::ios::app).is_open();
+    if (isWritable && !wasThere) {
+        std::remove(probe.c_str());
+    }
+    return isWritable;
+}
+
+std::string files::withoutExtension(const std::string& path) {
+    const bool hasSlash = path.find('/') != std::string::npos;
+    const std::size_t separator = path.rfind(hasSlash ? '/' : '\\');
+    const std::size_t dot = path.rfind('.');
+    const bool isExtension =
+        dot != std::string::npos && (separator == std::string::npos || dot > separator);
+    return isExtension ? path.substr(0, dot) : path;
+}
+
+} // namespace sorvik

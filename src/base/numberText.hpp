@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+
+namespace sorvik {
+
+/// `value` as a stream writes it by default, in the classic locale.
+std::string numberText(double value);
+
+/// The number that `text` begins with, 0 where there is none, read as std::strtod reads it in the
+/// classic locale: what follows the number is ignored, white space before it too.
+double leadingNumber(const char* text);
+
+/// Whether `c` is one of 0 to 9, or a letter of ASCII, whatever the locale.
+constexpr bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+constexpr bool isLetter(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+}
+
+} // namespace sorvik

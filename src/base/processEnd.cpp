@@ -1,0 +1,38 @@
+#include "base/processEnd.hpp"
+
+#include <cstdlib>
+#include <iostream>
+#include <utility>
+
+namespace sorvik {
+namespace {
+
+endHandler handler = nullptr;
+
+} // namespace
+
+endHandler setEndHandler(endHandler newHandler) {
+    return std::exchange(handler, newHandler);
+}
+
+void throwProcessEnd(int status) {
+    throw processEnded{status};
+}
+
+void processEnd(int status) {
+    if (handler != nullptr) {
+        handler(status);
+    }
+    std::exit(status);
+}
+
+void endWithLine(std::string_view line, int status) {
+    std::cout << line << std::endl;
+    processEnd(status);
+}
+
+void endWithError(const std::string& message) {
+    endWithLine("FATAL ERROR: " + message, 1);
+}
+
+} // namespace sorvik

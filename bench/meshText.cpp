@@ -110,14 +110,14 @@ void streamReadNemoh(const std::string& file, bodyMesh& mesh) {
     }
 }
 
-std::ostream& operator<<(std::ostream& out, v3<float> const& p) {
+std::ostream& operator<<(std::ostream& out, const v3<float>& p) {
     return out << p.x << ' ' << p.y << ' ' << p.z;
 }
 
-void streamWriteStl(const std::string& file, bodyMesh const& mesh) {
+void streamWriteStl(const std::string& file, const bodyMesh& mesh) {
     std::ofstream out(file);
     out << "solid OBJECT\n";
-    for (triangle const& t : mesh.faces) {
+    for (const triangle& t : mesh.faces) {
         out << "\tfacet normal " << t.normal << "\n\t\touter loop\n\t\t\tvertex " << t.vertexA
             << "\n\t\t\tvertex " << t.vertexB << "\n\t\t\tvertex " << t.vertexC
             << "\n\t\tendloop\n\tendfacet\n";
@@ -125,24 +125,24 @@ void streamWriteStl(const std::string& file, bodyMesh const& mesh) {
     out << "endsolid OBJECT\n";
 }
 
-void streamWriteGdf(const std::string& file, bodyMesh const& mesh) {
+void streamWriteGdf(const std::string& file, const bodyMesh& mesh) {
     std::ofstream out(file);
     out << "head\n1 9.81\t ULEN GRAV\n0 0\t ISX ISY\n" << mesh.faces.size() << '\n';
-    for (triangle const& t : mesh.faces) {
+    for (const triangle& t : mesh.faces) {
         out << t.vertexA << ' ' << t.vertexB << ' ' << t.vertexC << ' ' << t.vertexA << '\n';
     }
 }
 
 /// The nodes are matched as here: what is compared is the writing.
-void streamWriteNemoh(const std::string& file, bodyMesh const& mesh) {
+void streamWriteNemoh(const std::string& file, const bodyMesh& mesh) {
     nodeMatcher matcher(mesh.wetFaces.size());
-    for (triangle const* t : mesh.wetFaces) {
+    for (const triangle* t : mesh.wetFaces) {
         matcher.addPanel(t->vertexA, t->vertexB, t->vertexC);
     }
     std::ofstream out(file);
     out << "2 0\n";
     int number = 0;
-    for (v3<float> const& node : matcher.nodes()) {
+    for (const v3<float>& node : matcher.nodes()) {
         out << ++number << ' ' << node << '\n';
     }
     out << "0 0. 0. 0.\n";
@@ -179,7 +179,7 @@ void timeMatchingOfWritten(benchmark::State& state) {
     files();
     for (auto step : state) {
         nodeMatcher matcher(files().mesh.wetFaces.size());
-        for (triangle const* t : files().mesh.wetFaces) {
+        for (const triangle* t : files().mesh.wetFaces) {
             matcher.addPanel(t->vertexA, t->vertexB, t->vertexC);
         }
         benchmark::DoNotOptimize(matcher.nodes().data());
@@ -191,7 +191,7 @@ void timeMatching(benchmark::State& state) {
     const std::vector<triangle> panels = ellipsoid(around, panelRings);
     for (auto step : state) {
         nodeMatcher matcher(panels.size());
-        for (triangle const& t : panels) {
+        for (const triangle& t : panels) {
             matcher.addPanel(t.vertexA, t.vertexB, t.vertexC);
         }
         benchmark::DoNotOptimize(matcher.nodes().data());
@@ -207,13 +207,13 @@ BENCHMARK_CAPTURE(timeReading, Nemoh_stream,
 BENCHMARK_CAPTURE(timeReading, Nemoh, [](bodyMesh& m) { m.nemoh_read(files().nemoh); });
 BENCHMARK_CAPTURE(timeWriting, STL_stream, streamWriteStl);
 BENCHMARK_CAPTURE(timeWriting, STL,
-                  [](const std::string& f, bodyMesh const& m) { m.stl_print_ascii(f, false); });
+                  [](const std::string& f, const bodyMesh& m) { m.stl_print_ascii(f, false); });
 BENCHMARK_CAPTURE(timeWriting, GDF_stream, streamWriteGdf);
 BENCHMARK_CAPTURE(timeWriting, GDF,
-                  [](const std::string& f, bodyMesh const& m) { m.gdf_print(f, false, 1, 9.81); });
+                  [](const std::string& f, const bodyMesh& m) { m.gdf_print(f, false, 1, 9.81); });
 BENCHMARK_CAPTURE(timeWriting, Nemoh_stream, streamWriteNemoh);
 BENCHMARK_CAPTURE(timeWriting, Nemoh,
-                  [](const std::string& f, bodyMesh const& m) { m.nemoh_print(f, true); });
+                  [](const std::string& f, const bodyMesh& m) { m.nemoh_print(f, true); });
 BENCHMARK(timeMatchingOfWritten);
 BENCHMARK(timeMatching)->Arg(10'000)->Arg(200'000);
 

@@ -12,7 +12,7 @@ inline void checkCut(bodyMesh& mesh, double level) {
     std::size_t wet = 0, dry = 0, split = 0, parts = 0;
     for (triangle& panel : mesh.faces) {
         std::size_t under = 0, deep = 0;
-        for (v3<float> const& p : {panel.vertexA, panel.vertexB, panel.vertexC}) {
+        for (const v3<float>& p : {panel.vertexA, panel.vertexB, panel.vertexC}) {
             const auto z = static_cast<double>(p.z);
             under += level >= z ? 1 : 0;
             deep += static_cast<double>(static_cast<float>(level - z)) > 1e-4 ? 1 : 0;
@@ -36,7 +36,7 @@ inline void checkCut(bodyMesh& mesh, double level) {
     check(output().str() == counts.str());
 }
 
-inline std::string textOf(v3<float> const& p) {
+inline std::string textOf(const v3<float>& p) {
     std::ostringstream out;
     out << p.x << ' ' << p.y << ' ' << p.z << '\n';
     return out.str();
@@ -50,12 +50,12 @@ struct nodeList {
 
 /// Writes the wetted surface for Nemoh and compares it with a plain scan for nodes: every corner
 /// against all nodes of the panels before.
-inline nodeList checkNodes(bodyMesh const& mesh) {
+inline nodeList checkNodes(const bodyMesh& mesh) {
     nodeList list;
     auto& [nodes, corners] = list;
-    for (triangle const* panel : mesh.wetFaces) {
+    for (const triangle* panel : mesh.wetFaces) {
         const std::size_t known = nodes.size();
-        for (v3<float> const& p : {panel->vertexA, panel->vertexB, panel->vertexC}) {
+        for (const v3<float>& p : {panel->vertexA, panel->vertexB, panel->vertexC}) {
             std::size_t node = 0;
             while (node < known && !(1e-5 > static_cast<double>(length(p - nodes[node])))) {
                 ++node;

@@ -16,8 +16,8 @@ void tryText(const std::string& text) {
         bodyMesh again;
         check(again.nemoh_read(pathOf("1.dat")) == panels + 1);
         for (std::size_t i = 0; i < corners.size(); ++i) {
-            triangle const& t = again.faces[i / 3];
-            v3<float> const& p = i % 3 == 0 ? t.vertexA : i % 3 == 1 ? t.vertexB : t.vertexC;
+            const triangle& t = again.faces[i / 3];
+            const v3<float>& p = i % 3 == 0 ? t.vertexA : i % 3 == 1 ? t.vertexB : t.vertexC;
             check(textOf(p) == textOf(nodes[corners[i] - 1]));
         }
     }

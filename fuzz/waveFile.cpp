@@ -9,13 +9,13 @@ void tryText(const std::string& text) {
     std::istringstream in(text);
     std::size_t trains = 0;
     for (double direction = 0; in >> direction >> std::ws; ++trains) {
-        waveTrain const& train = wave.trains().at(trains);
+        const waveTrain& train = wave.trains().at(trains);
         for (const auto value : {&waveComponent2D::amplitude, &waveComponent2D::angularFrequency,
                                  &waveComponent2D::phase}) {
             std::string line;
             std::getline(in, line);
             std::istringstream row(line);
-            for (waveComponent2D const& component : train.components()) {
+            for (const waveComponent2D& component : train.components()) {
                 double expected = 0;
                 row >> expected >> std::ws;
                 check((component.*value)() == expected);

@@ -7,12 +7,12 @@
 namespace sorvik {
 namespace {
 
-endHandler handler = nullptr;
+endHandler current = nullptr;
 
 } // namespace
 
-endHandler setEndHandler(endHandler newHandler) {
-    return std::exchange(handler, newHandler);
+endHandler setEndHandler(endHandler handler) {
+    return std::exchange(current, handler);
 }
 
 void throwProcessEnd(int status) {
@@ -20,8 +20,8 @@ void throwProcessEnd(int status) {
 }
 
 void processEnd(int status) {
-    if (handler != nullptr) {
-        handler(status);
+    if (current != nullptr) {
+        current(status);
     }
     std::exit(status);
 }

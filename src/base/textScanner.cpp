@@ -125,36 +125,36 @@ const char* readPlain(const char* begin, const char* end, T& value) {
 } // namespace
 
 textScanner::textScanner(std::istream& source)
-    : in(source), block(blockSize), next(block.data()), end(block.data()),
-      hasFailed(!source.good()) {}
+    : in_(source), block_(blockSize), next_(block_.data()), end_(block_.data()),
+      hasFailed_(!source.good()) {}
 
 /// What every extraction asks first: reading on after the end is a failure.
 bool textScanner::startExtraction() {
-    hasFailed = hasFailed || ended;
-    return !hasFailed;
+    hasFailed_ = hasFailed_ || ended_;
+    return !hasFailed_;
 }
 
 /// Whether there is a next character; the end of the input is noted.
 bool textScanner::atCharacter() {
-    ended = next == end && !refill();
-    return !ended;
+    ended_ = next_ == end_ && !refill();
+    return !ended_;
 }
 
 /// Brings more of the stream into the block, behind the characters not read yet; false at its end.
 bool textScanner::refill() {
-    const auto kept = static_cast<std::size_t>(end - next);
-    if (kept > block.size() / 2) {
-        std::vector<char> larger(2 * block.size());
-        std::memcpy(larger.data(), next, kept);
-        block.swap(larger);
+    const auto kept = static_cast<std::size_t>(end_ - next_);
+    if (kept > block_.size() / 2) {
+        std::vector<char> larger(2 * block_.size());
+        std::memcpy(larger.data(), next_, kept);
+        block_.swap(larger);
     } else {
-        std::memmove(block.data(), next, kept);
+        std::memmove(block_.data(), next_, kept);
     }
-    next = block.data();
-    in.read(block.data() + kept, static_cast<std::streamsize>(block.size() - kept));
-    const auto added = static_cast<std::size_t>(in.gcount());
-    end = next + kept + added;
-    taken += added;
+    next_ = block_.data();
+    in_.read(block_.data() + kept, static_cast<std::streamsize>(block_.size() - kept));
+    const auto added = static_cast<std::size_t>(in_.gcount());
+    end_ = next_ + kept + added;
+    taken_ += added;
     return added > 0;
 }
 
@@ -162,13 +162,13 @@ bool textScanner::refill() {
 template <bool space>
 void textScanner::skipWhile() {
     do {
-        const char* p = next;
-        while (p != end && isSpace(*p) == space) {
+        const char* p = next_;
+        while (p != end_ && isSpace(*p) == space) {
             ++p;
         }
-        next = p;
-    } while (next == end && refill());
-    ended = next == end;
+        next_ = p;
+    } while (next_ == end_ && refill());
+    ended_ = next_ == end_;
 }
 
 void textScanner::skipSpace() {
@@ -182,8 +182,8 @@ void textScanner::skipWord() {
         return;
     }
     skipWhile<true>();
-    hasFailed = ended;
-    if (!ended) {
+    hasFailed_ = ended_;
+    if (!ended_) {
         skipWhile<false>();
     }
 }
@@ -192,20 +192,20 @@ void textScanner::skipLine() {
     if (!startExtraction()) {
         return;
     }
-    hasFailed = !atCharacter();
-    while (!ended) {
-        const auto left = static_cast<std::size_t>(end - next);
-        if (const void* newline = std::memchr(next, '\n', left)) {
-            next = static_cast<const char*>(newline) + 1;
+    hasFailed_ = !atCharacter();
+    while (!ended_) {
+        const auto left = static_cast<std::size_t>(end_ - next_);
+        if (const void* newline = std::memchr(next_, '\n', left)) {
+            next_ = static_cast<const char*>(newline) + 1;
             return;
         }
-        next = end;
+        next_ = end_;
         atCharacter();
     }
 }
 
 int textScanner::peek() {
-    return startExtraction() && atCharacter() ? static_cast<unsigned char>(*next) : -1;
+    return startExtraction() && atCharacter() ? static_cast<unsigned char>(*next_) : -1;
 }
 
 template <class T>
@@ -214,13 +214,13 @@ bool textScanner::read(T& value) {
         return false;
     }
     skipWhile<true>();
-    if (ended) {
-        hasFailed = true;
+    if (ended_) {
+        hasFailed_ = true;
         return false;
     }
-    if (end - next >= usualLength) {
-        if (const char* last = readPlain(next, end, value)) {
-            next = last;
+    if (end_ - next_ >= usualLength) {
+        if (const char* last = readPlain(next_, end_, value)) {
+            next_ = last;
             return true;
         }
     }
@@ -231,18 +231,18 @@ bool textScanner::read(T& value) {
 template <class T>
 bool textScanner::readAsStream(T& value) {
     std::ptrdiff_t length = 0;
-    while ((length < end - next || refill()) && isNumeric(next[length])) {
+    while ((length < end_ - next_ || refill()) && isNumeric(next_[length])) {
         ++length;
     }
-    const bool isLast = length == end - next;
-    classicText text(std::string_view(next, static_cast<std::size_t>(length)));
+    const bool isLast = length == end_ - next_;
+    classicText text(std::string_view(next_, static_cast<std::size_t>(length)));
     value = T(0);
     text >> value;
-    hasFailed = text.fail();
+    hasFailed_ = text.fail();
     const auto left = text.rdbuf()->in_avail();
-    next += length - (left > 0 ? left : 0);
-    ended = isLast && next == end;
-    return !hasFailed;
+    next_ += length - (left > 0 ? left : 0);
+    ended_ = isLast && next_ == end_;
+    return !hasFailed_;
 }
 
 template bool textScanner::read<float>(float&);

@@ -17,10 +17,10 @@ public:
     explicit textScanner(std::istream& source);
 
     /// Neither at the end nor failed.
-    bool good() const { return !ended && !hasFailed; }
-    bool failed() const { return hasFailed; }
+    bool good() const { return !ended_ && !hasFailed_; }
+    bool failed() const { return hasFailed_; }
     /// Characters read so far.
-    std::size_t position() const { return taken - static_cast<std::size_t>(end - next); }
+    std::size_t position() const { return taken_ - static_cast<std::size_t>(end_ - next_); }
 
     /// As `in >> std::ws`.
     void skipSpace();
@@ -46,13 +46,13 @@ private:
     template <class T>
     bool readAsStream(T& value);
 
-    std::istream& in;
-    std::vector<char> block;
-    const char* next;
-    const char* end;
-    std::size_t taken = 0; ///< characters that the block has held so far
-    bool ended = false;
-    bool hasFailed;
+    std::istream& in_;
+    std::vector<char> block_;
+    const char* next_;
+    const char* end_;
+    std::size_t taken_ = 0; ///< characters that the block has held so far
+    bool ended_ = false;
+    bool hasFailed_;
 };
 
 } // namespace sorvik

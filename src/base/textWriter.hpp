@@ -18,14 +18,14 @@ namespace sorvik {
 class textWriter {
 public:
     /// The stream must outlive the writer.
-    explicit textWriter(std::ostream& target) : out(target), block(new char[size]) {}
+    explicit textWriter(std::ostream& target) : out_(target), block_(new char[size]) {}
     textWriter(const textWriter&) = delete;
     textWriter& operator=(const textWriter&) = delete;
     ~textWriter() { flush(); }
 
     textWriter& operator<<(double value) {
         reserve(sixDigits::room);
-        end = sixDigits::write(end, value);
+        end_ = sixDigits::write(end_, value);
         return *this;
     }
 
@@ -34,21 +34,21 @@ public:
     textWriter& operator<<(int value) {
         constexpr std::size_t maxLength = 11;
         reserve(maxLength);
-        end = std::to_chars(end, end + maxLength, value).ptr;
+        end_ = std::to_chars(end_, end_ + maxLength, value).ptr;
         return *this;
     }
 
     textWriter& operator<<(char c) {
         reserve(1);
-        *end++ = c;
+        *end_++ = c;
         return *this;
     }
 
     /// `text` is shorter than the block.
     textWriter& operator<<(std::string_view text) {
         reserve(text.size());
-        std::memcpy(end, text.data(), text.size());
-        end += text.size();
+        std::memcpy(end_, text.data(), text.size());
+        end_ += text.size();
         return *this;
     }
 
@@ -62,7 +62,7 @@ public:
             const std::size_t next = std::min(run, count - written);
             reserve(next * (1 + sixDigits::room));
             const std::size_t certain =
-                sixDigits::writeColumns(end, values + written, next, factor, bound);
+                sixDigits::writeColumns(end_, values + written, next, factor, bound);
             written += certain;
             if (certain < next) {
                 break;
@@ -73,22 +73,22 @@ public:
 
     /// Hands what is in the block to the stream.
     void flush() {
-        out.write(block.get(), end - block.get());
-        end = block.get();
+        out_.write(block_.get(), end_ - block_.get());
+        end_ = block_.get();
     }
 
 private:
     static constexpr std::size_t size = std::size_t(1) << 18;
 
     void reserve(std::size_t count) {
-        if (count > size - static_cast<std::size_t>(end - block.get())) {
+        if (count > size - static_cast<std::size_t>(end_ - block_.get())) {
             flush();
         }
     }
 
-    std::ostream& out;
-    std::unique_ptr<char[]> block;
-    char* end = block.get();
+    std::ostream& out_;
+    std::unique_ptr<char[]> block_;
+    char* end_ = block_.get();
 };
 
 } // namespace sorvik

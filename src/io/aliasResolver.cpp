@@ -30,8 +30,7 @@ std::size_t commonLength(std::string_view a, std::string_view b) {
 
 [[noreturn]] void fail(std::string_view prefix, std::string_view source, std::string_view what) {
     printer::fatalError("The alias " + excerpt(prefix) + sorvikIO::memberDLM +
-                        std::string(sourceWord) + " = " + excerpt(source) +
-                        std::string(what));
+                        std::string(sourceWord) + " = " + excerpt(source) + std::string(what));
 }
 
 /// An alias that begins with its own source gives itself new entries for ever.
@@ -45,25 +44,25 @@ void checkAlias(std::string_view prefix, std::string_view source) {
 
 } // namespace
 
-aliasResolver::aliasResolver(entries& target) : map(target) {
-    for (const auto& e : map) {
+aliasResolver::aliasResolver(entries& target) : map_(target) {
+    for (const auto& e : map_) {
         noteIfAlias(&e);
     }
 }
 
 bool aliasResolver::pass() {
     bool changed = false;
-    for (auto turn = waiting.begin(); turn != waiting.end();) {
+    for (auto turn = waiting_.begin(); turn != waiting_.end();) {
         alias& a = *turn->second;
         changed |= takeTurn(a);
-        turn = a.news.empty() ? waiting.erase(turn) : std::next(turn);
+        turn = a.news.empty() ? waiting_.erase(turn) : std::next(turn);
     }
     return changed;
 }
 
 bool aliasResolver::resolve(std::string_view prefix, std::string_view source) {
     checkAlias(prefix, source);
-    return takeTurn(aliases.emplace_back(alias{{}, prefix, source}));
+    return takeTurn(aliases_.emplace_back(alias{{}, prefix, source}));
 }
 
 /// Checks new aliases at once: before its turn another one could copy it without end.
@@ -72,7 +71,7 @@ void aliasResolver::noteIfAlias(entry e) {
     if (isAlias(key)) {
         const std::string_view prefix = key.substr(0, key.size() - sourceWord.size() - 1);
         checkAlias(prefix, e->second);
-        waiting.emplace(key, &aliases.emplace_back(alias{key, prefix, e->second}));
+        waiting_.emplace(key, &aliases_.emplace_back(alias{key, prefix, e->second}));
     }
 }
 
@@ -80,8 +79,8 @@ void aliasResolver::noteIfAlias(entry e) {
 /// shorter ones.
 void aliasResolver::announce(entry e) {
     std::string_view head = e->first;
-    for (auto after = bySource.upper_bound(head); after != bySource.begin();
-         after = bySource.upper_bound(head)) {
+    for (auto after = bySource_.upper_bound(head); after != bySource_.begin();
+         after = bySource_.upper_bound(head)) {
         const auto& [source, found] = *std::prev(after);
         const std::size_t common = commonLength(source, head);
         head = head.substr(0, common);
@@ -90,7 +89,7 @@ void aliasResolver::announce(entry e) {
         }
         for (alias* a : found) {
             a->news.insert(e);
-            waiting.emplace(a->key, a);
+            waiting_.emplace(a->key, a);
         }
         if (head.empty()) {
             return;
@@ -102,9 +101,9 @@ void aliasResolver::announce(entry e) {
 bool aliasResolver::takeTurn(alias& a) {
     if (!a.hadTurn) {
         a.hadTurn = true;
-        bySource[a.source].push_back(&a);
-        for (auto it = map.lower_bound(std::string(a.source));
-             it != map.end() && startsWith(it->first, a.source); ++it) {
+        bySource_[a.source].push_back(&a);
+        for (auto it = map_.lower_bound(std::string(a.source));
+             it != map_.end() && startsWith(it->first, a.source); ++it) {
             a.news.insert(a.news.end(), &*it);
         }
     }
@@ -117,19 +116,19 @@ bool aliasResolver::takeTurn(alias& a) {
     return changed;
 }
 
-bool aliasResolver::add(alias const& a, entry e) {
+bool aliasResolver::add(const alias& a, entry e) {
     std::string key(a.prefix);
     key.append(e->first, a.source.size());
-    const auto [added, isNew] = map.try_emplace(std::move(key), e->second);
+    const auto [added, isNew] = map_.try_emplace(std::move(key), e->second);
     if (!isNew) {
         return false;
     }
-    addedText += added->first.size() + added->second.size();
-    if (map.size() > sorvikIO::maxMapEntries) {
+    addedText_ += added->first.size() + added->second.size();
+    if (map_.size() > sorvikIO::maxMapEntries) {
         fail(a.prefix, a.source,
              " makes more than " + std::to_string(sorvikIO::maxMapEntries) + " entries.");
     }
-    if (addedText > sorvikIO::maxAddedText) {
+    if (addedText_ > sorvikIO::maxAddedText) {
         fail(a.prefix, a.source,
              " makes entries of more than " + std::to_string(sorvikIO::maxAddedText) +
                  " characters in all.");

@@ -47,15 +47,15 @@ private:
     void noteIfAlias(entry e);
     void announce(entry e);
     bool takeTurn(alias& a);
-    bool add(alias const& a, entry e);
+    bool add(const alias& a, entry e);
 
-    entries& map;
-    std::size_t addedText = 0;
-    std::list<alias> aliases;
+    entries& map_;
+    std::size_t addedText_ = 0;
+    std::list<alias> aliases_;
     /// By key, those with news and those before their first turn.
-    std::map<std::string_view, alias*> waiting;
+    std::map<std::string_view, alias*> waiting_;
     /// By source, those that had a turn.
-    std::map<std::string_view, std::vector<alias*>> bySource;
+    std::map<std::string_view, std::vector<alias*>> bySource_;
 };
 
 } // namespace sorvik

@@ -37,8 +37,8 @@ std::string readAll(std::istream& file, const std::string& name) {
 } // namespace
 
 inputMap::inputMap(std::istream& in, char assignDLM, char memberDLM)
-    : map(sorvikIO::readInputStream(in, assignDLM, memberDLM)), assign(assignDLM),
-      member(memberDLM) {
+    : map(sorvikIO::readInputStream(in, assignDLM, memberDLM)), assign_(assignDLM),
+      member_(memberDLM) {
     assignSources();
 }
 
@@ -47,16 +47,16 @@ inputMap::inputMap(const std::string& name) {
 }
 
 bool inputMap::readFile(const std::string& name) {
-    fileName = name;
-    assign = isJson(fileName) ? ':' : '=';
-    std::ifstream file = sorvik::files::open(fileName);
+    fileName_ = name;
+    assign_ = isJson(fileName_) ? ':' : '=';
+    std::ifstream file = sorvik::files::open(fileName_);
     if (!file.is_open()) {
         return false;
     }
     // Read whole: blocks are found by going back and forth in the text.
-    const std::string content = readAll(file, fileName);
+    const std::string content = readAll(file, fileName_);
     sorvik::classicText text(content);
-    map = sorvikIO::readInputStream(text, assign, member);
+    map = sorvikIO::readInputStream(text, assign_, member_);
     assignSources();
     return true;
 }
@@ -93,7 +93,7 @@ template int inputMap::read(const std::string&, const int&) const;
 template std::vector<double> inputMap::read(const std::string&, const std::vector<double>&) const;
 
 void inputMap::set(const std::string& key, const std::string& value) {
-    if (value.find(assign) == std::string::npos) {
+    if (value.find(assign_) == std::string::npos) {
         map[key] = value;
         return;
     }
@@ -110,10 +110,10 @@ void inputMap::print(std::string outName) const {
         return;
     }
     if (outName == ".json") {
-        outName = sorvik::files::withoutExtension(fileName) + ".json";
+        outName = sorvik::files::withoutExtension(fileName_) + ".json";
     }
     const std::string text = sorvikIO::toJSON(map, 0);
-    if (!sorvik::rewrite(fileName, outName, [&](std::ostream& out) { out << text; })) {
+    if (!sorvik::rewrite(fileName_, outName, [&](std::ostream& out) { out << text; })) {
         printer::fatalError("Cannot write the JSON file " + outName +
                             ". Expected a file in an existing folder that can be written to, and "
                             "room on the disk.");

@@ -44,7 +44,7 @@ public:
     std::vector<std::string> getKeys(const std::string& word) const;
 
 private:
-    std::string fileName = "inputMap.txt";
-    char assign = '=';
-    char member = '.';
+    std::string fileName_ = "inputMap.txt";
+    char assign_ = '=';
+    char member_ = '.';
 };

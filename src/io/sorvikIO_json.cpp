@@ -48,9 +48,9 @@ std::string memberHead(const std::string& key, int indent) {
 void checkDepth(const std::string& key) {
     const auto dots = std::count(key.begin(), key.end(), sorvikIO::memberDLM);
     if (dots >= sorvikIO::maxNesting) {
-        printer::fatalError("The key " + sorvik::excerpt(key) + " has " +
-                            std::to_string(dots + 1) + " components. At most " +
-                            std::to_string(sorvikIO::maxNesting) + " are expected.");
+        printer::fatalError("The key " + sorvik::excerpt(key) + " has " + std::to_string(dots + 1) +
+                            " components. At most " + std::to_string(sorvikIO::maxNesting) +
+                            " are expected.");
     }
 }
 

@@ -36,74 +36,74 @@ bool isNested(const std::string& block, char assign) {
 class entryReader {
 public:
     entryReader(std::string_view content, char assignDLM)
-        : text(content), in(content), assign(assignDLM) {}
+        : text_(content), in_(content), assign_(assignDLM) {}
 
     /// As `sorvikIO::readNextEntry`.
     int next(std::string& key, std::string& value) {
-        while (!isAtEnd) {
-            lineEnd = find('\n', lineEnd);
-            const std::size_t end = std::min(lineEnd, text.size());
-            percent = find('%', percent);
-            hash = find('#', hash);
-            const std::size_t comment = percent < end ? percent : std::min(hash, end);
-            split = find(assign, split);
-            if (split >= comment) {
-                moveTo(lineEnd);
+        while (!isAtEnd_) {
+            lineEnd_ = find('\n', lineEnd_);
+            const std::size_t end = std::min(lineEnd_, text_.size());
+            percent_ = find('%', percent_);
+            hash_ = find('#', hash_);
+            const std::size_t comment = percent_ < end ? percent_ : std::min(hash_, end);
+            split_ = find(assign_, split_);
+            if (split_ >= comment) {
+                moveTo(lineEnd_);
                 continue;
             }
-            key = text.substr(position, split - position);
+            key = text_.substr(position_, split_ - position_);
             sorvikIO::strip(key);
             sorvikIO::stripFromUnwanted(key);
-            const std::string_view rest = text.substr(split + 1, comment - split - 1);
+            const std::string_view rest = text_.substr(split_ + 1, comment - split_ - 1);
             const std::size_t first = rest.find_first_not_of(" \t");
             if (first == std::string_view::npos || bracketPairs().count(rest[first]) == 0) {
                 value = rest;
                 sorvikIO::strip(value);
                 sorvikIO::stripFromUnwanted(value);
-                moveTo(lineEnd);
+                moveTo(lineEnd_);
                 return 1;
             }
-            in.clear();
-            in.seekg(static_cast<std::streamoff>(split + 1));
-            value = sorvikIO::extractBlock(in);
-            isAtEnd = !in.good();
-            position = isAtEnd ? text.size() : static_cast<std::size_t>(in.tellg());
-            return isNested(value, assign) ? 2 : 1;
+            in_.clear();
+            in_.seekg(static_cast<std::streamoff>(split_ + 1));
+            value = sorvikIO::extractBlock(in_);
+            isAtEnd_ = !in_.good();
+            position_ = isAtEnd_ ? text_.size() : static_cast<std::size_t>(in_.tellg());
+            return isNested(value, assign_) ? 2 : 1;
         }
         return 0;
     }
 
     /// Where the next entry is looked for.
-    std::size_t place() const { return position; }
-    bool ended() const { return isAtEnd; }
+    std::size_t place() const { return position_; }
+    bool ended() const { return isAtEnd_; }
     /// Newlines of the text before the value of the last entry.
     std::ptrdiff_t newlinesBefore() const {
-        return std::count(text.data(), text.data() + split, '\n');
+        return std::count(text_.data(), text_.data() + split_, '\n');
     }
 
 private:
     /// The first `c` at or behind the position, where `known` is the first behind an earlier one.
     std::size_t find(char c, std::size_t known) const {
-        return known != unknown && known >= position ? known : text.find(c, position);
+        return known != unknown && known >= position_ ? known : text_.find(c, position_);
     }
 
     /// Stands behind the line end, or at the end of a text that has none left.
     void moveTo(std::size_t newline) {
-        isAtEnd = newline == std::string_view::npos;
-        position = isAtEnd ? text.size() : newline + 1;
+        isAtEnd_ = newline == std::string_view::npos;
+        position_ = isAtEnd_ ? text_.size() : newline + 1;
     }
 
     static constexpr std::size_t unknown = std::string_view::npos - 1;
 
-    std::string_view text;
-    sorvik::classicText in;
-    char assign;
-    std::size_t position = 0;
-    std::size_t split = unknown;
-    std::size_t lineEnd = unknown;
-    std::size_t percent = unknown;
-    std::size_t hash = unknown;
-    bool isAtEnd = false;
+    std::string_view text_;
+    sorvik::classicText in_;
+    char assign_;
+    std::size_t position_ = 0;
+    std::size_t split_ = unknown;
+    std::size_t lineEnd_ = unknown;
+    std::size_t percent_ = unknown;
+    std::size_t hash_ = unknown;
+    bool isAtEnd_ = false;
 };
 
 /// A block whose entries are being read.
@@ -126,13 +126,13 @@ struct openBlock {
 /// Reads a text and the blocks in it.
 class blockReader {
 public:
-    blockReader(char assignDLM, char memberDLM) : assign(assignDLM), member(memberDLM) {}
+    blockReader(char assignDLM, char memberDLM) : assign_(assignDLM), member_(memberDLM) {}
 
     std::map<std::string, std::string> read(std::string_view text, const openBlock* parent) {
         std::map<std::string, std::string> map;
         std::string key;
         std::string value;
-        entryReader entries(text, assign);
+        entryReader entries(text, assign_);
         const openBlock block{entries, parent == nullptr ? 1 : parent->depth + 1, parent};
         while (const int kind = entries.next(key, value)) {
             if (value.empty() || map.count(key) != 0) {
@@ -154,13 +154,13 @@ public:
 private:
     void addBlock(std::map<std::string, std::string>& map, const std::string& key,
                   std::map<std::string, std::string>&& entries) {
-        const std::string prefix = key + member;
+        const std::string prefix = key + member_;
         auto next = map.lower_bound(prefix);
         for (auto& [subKey, subValue] : entries) {
             const std::size_t before = map.size();
             next = std::next(map.emplace_hint(next, prefix + subKey, std::move(subValue)));
-            addedText += map.size() > before ? prefix.size() : 0;
-            if (addedText > sorvikIO::maxAddedText) {
+            addedText_ += map.size() > before ? prefix.size() : 0;
+            if (addedText_ > sorvikIO::maxAddedText) {
                 printer::fatalError("The names of blocks, such as " + sorvik::excerpt(key) +
                                     ", add more than " + std::to_string(sorvikIO::maxAddedText) +
                                     " characters to the keys of the input.");
@@ -168,9 +168,9 @@ private:
         }
     }
 
-    char assign;
-    char member;
-    std::size_t addedText = 0;
+    char assign_;
+    char member_;
+    std::size_t addedText_ = 0;
 };
 
 /// The rest of the stream.

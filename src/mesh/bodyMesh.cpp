@@ -14,7 +14,7 @@ v3<float> toFloat(double x, double y, double z) {
     return {static_cast<float>(x), static_cast<float>(y), static_cast<float>(z)};
 }
 
-void shiftAll(std::vector<triangle>& panels, v3<float> const& d) {
+void shiftAll(std::vector<triangle>& panels, const v3<float>& d) {
     for (triangle& panel : panels) {
         panel.shift(d);
     }
@@ -22,8 +22,8 @@ void shiftAll(std::vector<triangle>& panels, v3<float> const& d) {
 
 } // namespace
 
-bodyMesh::bodyMesh(std::string file, std::vector<double> const& meshOrigin,
-                   std::vector<double> const& bodyPosition, double level)
+bodyMesh::bodyMesh(std::string file, const std::vector<double>& meshOrigin,
+                   const std::vector<double>& bodyPosition, double level)
     : meshFile(std::move(file)), origin(toFloat(meshOrigin[0], meshOrigin[1], meshOrigin[2])),
       rotation(identity), targetRotation(identity) {
     std::cout << "Body mesh generation... " << std::endl;
@@ -38,11 +38,11 @@ bodyMesh::bodyMesh(std::string file, std::vector<double> const& meshOrigin,
     std::cout << "Body mesh generation done " << std::endl;
 }
 
-void bodyMesh::setPosition(double const* p) {
+void bodyMesh::setPosition(const double* p) {
     std::copy(p, p + position.size(), position.begin());
 }
 
-void bodyMesh::setRotation(double const* R) {
+void bodyMesh::setRotation(const double* R) {
     std::copy(R, R + targetRotation.size(), targetRotation.begin());
 }
 
@@ -66,7 +66,7 @@ void bodyMesh::rotate() {
 
 double bodyMesh::surfaceArea() const {
     double sum = 0;
-    for (triangle const& panel : faces) {
+    for (const triangle& panel : faces) {
         sum += panel.area;
     }
     return sum;
@@ -103,8 +103,8 @@ std::vector<double> bodyMesh::shellInertia(double mass) const {
     double xy = 0;
     double xz = 0;
     double yz = 0;
-    for (triangle const& panel : faces) {
-        auto const& [fx, fy, fz] = panel.centroid;
+    for (const triangle& panel : faces) {
+        const auto& [fx, fy, fz] = panel.centroid;
         // Sums of squares are single precision, products double.
         xx += panel.area * static_cast<double>(fy * fy + fz * fz);
         yy += panel.area * static_cast<double>(fz * fz + fx * fx);
@@ -127,11 +127,11 @@ std::vector<double> bodyMesh::volumeInertia(double mass) const {
     return shellInertia(mass);
 }
 
-void bodyMesh::FroudeKrylovForces(double const& elevation, double const& factor,
+void bodyMesh::FroudeKrylovForces(const double& elevation, const double& factor,
                                   std::vector<double>& F) const {
     v3<float> force;
     v3<float> moment;
-    for (triangle const* panel : wetFaces) {
+    for (const triangle* panel : wetFaces) {
         const v3<float>& centre = panel->centroid;
         const auto head =
             static_cast<float>((elevation - position[2]) - static_cast<double>(centre.z));

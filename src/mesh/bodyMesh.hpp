@@ -33,11 +33,11 @@ public:
     /// Reads the file, moves the mesh so that the file's point `origin` becomes (0, 0, 0), places
     /// it at `position` and cuts it at the global height `level`. Both vectors hold at least 3
     /// values. An unsupported file name extension ends the process with status 1.
-    bodyMesh(std::string file, std::vector<double> const& origin,
-             std::vector<double> const& position, double level);
+    bodyMesh(std::string file, const std::vector<double>& origin,
+             const std::vector<double>& position, double level);
     // The wetted surface points into the mesh that it belongs to.
-    bodyMesh(bodyMesh const&) = delete;
-    bodyMesh& operator=(bodyMesh const&) = delete;
+    bodyMesh(const bodyMesh&) = delete;
+    bodyMesh& operator=(const bodyMesh&) = delete;
     bodyMesh(bodyMesh&&) = default;
     bodyMesh& operator=(bodyMesh&&) = default;
     ~bodyMesh() = default;
@@ -45,9 +45,9 @@ public:
     // ---- Placement and sums (bodyMesh.cpp) ----
 
     /// Takes over p[0..2].
-    void setPosition(double const* p);
+    void setPosition(const double* p);
     /// Takes over R[0..8] for the next `rotate`.
-    void setRotation(double const* R);
+    void setRotation(const double* R);
     /// Moves panels and sub-panels so that `origin` comes to `position`.
     void translate();
     /// Turns the panels from `rotation` to `targetRotation`; the sub-panels wait for the next cut.
@@ -64,7 +64,7 @@ public:
     std::vector<double> volumeInertia(double mass) const;
     /// Hydrostatic force and moment (F[0..2], F[3..5], resized to 6) on the wetted surface under a
     /// free surface at the global height `elevation`; `factor` is water density times gravity.
-    void FroudeKrylovForces(double const& elevation, double const& factor,
+    void FroudeKrylovForces(const double& elevation, const double& factor,
                             std::vector<double>& F) const;
     /// Global coordinates of the panel centroids: x, y, z per panel, or `blocked`, all x, all y,
     /// all z.
@@ -78,69 +78,69 @@ public:
     /// A corner at the level counts as submerged. A cut panel whose submerged corners do not all
     /// lie deeper than a tolerance of 1e-4 is dropped: it counts neither as wet nor as dry nor as
     /// split.
-    void updateWetSurface(double const& level);
+    void updateWetSurface(const double& level);
 
     // ---- Choice of the format (bodyMesh_format.cpp) ----
 
     /// 0 for STL, 1 for GDF, 2 for Nemoh, -1 otherwise, by the last four characters of the name,
     /// which are printed. A name that is shorter is a std::out_of_range.
-    static int chooseFrmt(std::string const& file);
+    static int chooseFrmt(const std::string& file);
     /// Reads a mesh in the format of its name; false where something is wrong with it. An
     /// unsupported extension ends the process with status 1.
-    bool read(std::string const& file);
+    bool read(const std::string& file);
     /// Writes the mesh, or its wetted surface, in the format of the name; false where there is
     /// none. Nemoh files always hold the wetted surface. The file that the mesh came from is kept
     /// unless it can be replaced whole.
-    bool write(std::string const& file, bool wetOnly);
+    bool write(const std::string& file, bool wetOnly);
 
     // ---- STL (bodyMesh_stl.cpp) ----
 
     /// Whether the file is to be read as binary: all but "solid" in its first and "facet" in its
     /// second line, both in small letters or capitals.
-    static bool stl_isbinary(std::string const& file);
+    static bool stl_isbinary(const std::string& file);
     /// Appends the facets of a file; false where the stream did not end in a good state.
-    bool stl_read_ascii(std::string const& file);
+    bool stl_read_ascii(const std::string& file);
     /// Replaces the panels by those of a file; false where it is shorter than it announces. A count
     /// beyond what memory can hold is fatal.
-    bool stl_read(std::string const& file);
-    void stl_print_ascii(std::string const& file, bool wetOnly) const;
-    void stl_print(std::string const& file, bool wetOnly) const;
+    bool stl_read(const std::string& file);
+    void stl_print_ascii(const std::string& file, bool wetOnly) const;
+    void stl_print(const std::string& file, bool wetOnly) const;
     void stl_write(std::ostream& stream, bool wetOnly) const;
 
     // ---- WAMIT GDF (bodyMesh_gdf.cpp) ----
 
     /// Appends the panels of a file and mirrors them where it says so; false where it holds fewer
     /// records than it announces.
-    bool gdf_read(std::string const& file);
-    void gdf_print(std::string const& file, bool wetOnly, double ULEN, double GRAV) const;
+    bool gdf_read(const std::string& file);
+    void gdf_print(const std::string& file, bool wetOnly, double ULEN, double GRAV) const;
     void gdf_write(std::ostream& stream, bool wetOnly, double ULEN, double GRAV) const;
 
     // ---- Nemoh mesh (bodyMesh_nemoh.cpp) ----
 
     /// Adds the numbers of node and panel lines to the counters and returns the symmetry flag.
-    static int nemoh_readMeshInfo(std::string const& file, int& nNodes, int& nPanels);
+    static int nemoh_readMeshInfo(const std::string& file, int& nNodes, int& nPanels);
     static int nemoh_countMesh(std::istream& stream, int& nNodes, int& nPanels);
     /// Appends the panels of a file, mirrors them where it says so, and returns `nFaces`. The line
     /// that ends the panels comes in as one more, of zero area at (0, 0, 0).
-    int nemoh_read(std::string const& file);
+    int nemoh_read(const std::string& file);
     /// Writes the wetted surface, corners closer than 1e-5 merged, and returns the number of nodes.
     /// Warns unless `wetOnly`.
-    int nemoh_print(std::string const& file, bool wetOnly) const;
+    int nemoh_print(const std::string& file, bool wetOnly) const;
     /// The same to a stream, whose state tells whether it was written.
     int nemoh_write(std::ostream& out) const;
 
 private:
     void completeByMirror(float v3<float>::*axis);
-    void appendSplit(triangle const& panel, double cut);
+    void appendSplit(const triangle& panel, double cut);
     /// Calls `use` with every panel that a writer is asked for, in order.
     template <class Use>
     void forChosen(bool wetOnly, Use use) const {
         if (wetOnly) {
-            for (triangle const* panel : wetFaces) {
+            for (const triangle* panel : wetFaces) {
                 use(*panel);
             }
         } else {
-            for (triangle const& panel : faces) {
+            for (const triangle& panel : faces) {
                 use(panel);
             }
         }

@@ -11,31 +11,31 @@ namespace {
 /// would give panels without a usable normal or area.
 constexpr double sliverDepth = 0.0001;
 
-float depthBelow(double cut, v3<float> const& corner) {
+float depthBelow(double cut, const v3<float>& corner) {
     return static_cast<float>(cut - static_cast<double>(corner.z));
 }
 
-bool isSubmerged(double cut, v3<float> const& corner) {
+bool isSubmerged(double cut, const v3<float>& corner) {
     return cut >= static_cast<double>(corner.z);
 }
 
 /// The point where the edge from the corner `from`, `depth` below the cut, to the corner `to` above
 /// it meets the cut.
-v3<float> cutPoint(v3<float> const& from, v3<float> const& to, float depth) {
+v3<float> cutPoint(const v3<float>& from, const v3<float>& to, float depth) {
     const float t = depth / (to.z - from.z);
     return (1.0F - t) * from + t * to;
 }
 
 /// The corners of a panel from its `first` one (0, 1, 2) on, in cyclic order.
 struct cornersFrom {
-    v3<float> const& at;
-    v3<float> const& next;
-    v3<float> const& previous;
+    const v3<float>& at;
+    const v3<float>& next;
+    const v3<float>& previous;
 
-    cornersFrom(triangle const& p, int first)
+    cornersFrom(const triangle& p, int first)
         : at(corner(p, first)), next(corner(p, first + 1)), previous(corner(p, first + 2)) {}
 
-    static v3<float> const& corner(triangle const& p, int i) {
+    static const v3<float>& corner(const triangle& p, int i) {
         return i % 3 == 0 ? p.vertexA : i % 3 == 1 ? p.vertexB : p.vertexC;
     }
 };
@@ -45,7 +45,7 @@ bool isSliver(float depth) {
 }
 
 /// Appends the wet part of a panel with one submerged corner; false where it is dropped.
-bool appendTip(std::vector<triangle>& target, triangle const& panel, int submerged, double cut) {
+bool appendTip(std::vector<triangle>& target, const triangle& panel, int submerged, double cut) {
     const cornersFrom c(panel, submerged);
     const float depth = depthBelow(cut, c.at);
     if (isSliver(depth)) {
@@ -58,7 +58,7 @@ bool appendTip(std::vector<triangle>& target, triangle const& panel, int submerg
 
 /// Appends the wet part of a panel with one dry corner, a quadrilateral, as two panels; false where
 /// it is dropped.
-bool appendQuadrilateral(std::vector<triangle>& target, triangle const& panel, int dry,
+bool appendQuadrilateral(std::vector<triangle>& target, const triangle& panel, int dry,
                          double cut) {
     const cornersFrom c(panel, dry);
     const float depthPrevious = depthBelow(cut, c.previous);
@@ -75,7 +75,7 @@ bool appendQuadrilateral(std::vector<triangle>& target, triangle const& panel, i
 
 } // namespace
 
-void bodyMesh::updateWetSurface(double const& level) {
+void bodyMesh::updateWetSurface(const double& level) {
     const double cut = (static_cast<double>(origin.z) + level) - position[2];
     splitFaces.clear();
     wetFaces.clear();

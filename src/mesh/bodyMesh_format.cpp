@@ -12,7 +12,7 @@ enum format : int { unknown = -1, stl = 0, gdf = 1, nemoh = 2 };
 
 } // namespace
 
-int bodyMesh::chooseFrmt(std::string const& file) {
+int bodyMesh::chooseFrmt(const std::string& file) {
     static const std::map<std::string, format> formats = {
         {".stl", stl},   {".STL", stl},   {".gdf", gdf},  {".GDF", gdf},
         {".dat", nemoh}, {".DAT", nemoh}, {".nem", nemoh}};
@@ -22,7 +22,7 @@ int bodyMesh::chooseFrmt(std::string const& file) {
     return found == formats.end() ? unknown : found->second;
 }
 
-bool bodyMesh::read(std::string const& file) {
+bool bodyMesh::read(const std::string& file) {
     const int frmt = chooseFrmt(file);
     switch (frmt) {
     case stl: return stl_isbinary(file) ? stl_read(file) : stl_read_ascii(file);
@@ -36,7 +36,7 @@ bool bodyMesh::read(std::string const& file) {
     }
 }
 
-bool bodyMesh::write(std::string const& file, bool wetOnly) {
+bool bodyMesh::write(const std::string& file, bool wetOnly) {
     constexpr double lengthScale = 1.0;
     constexpr double gravity = 9.81;
     switch (chooseFrmt(file)) {
@@ -45,9 +45,11 @@ bool bodyMesh::write(std::string const& file, bool wetOnly) {
         return true;
     case gdf:
         sorvik::rewrite(meshFile, file,
-                [&](std::ostream& out) { gdf_write(out, wetOnly, lengthScale, gravity); });
+                        [&](std::ostream& out) { gdf_write(out, wetOnly, lengthScale, gravity); });
         return true;
-    case nemoh: sorvik::rewrite(meshFile, file, [&](std::ostream& out) { nemoh_write(out); }); return true;
+    case nemoh:
+        sorvik::rewrite(meshFile, file, [&](std::ostream& out) { nemoh_write(out); });
+        return true;
     default:
         std::cout << "Warning: Output format not supported. Please choose among: .gdf, .stl and "
                      ".dat formats"

@@ -55,7 +55,7 @@ int readPanels(sorvik::textScanner& in, int announced, std::vector<triangle>& fa
 
 } // namespace
 
-bool bodyMesh::gdf_read(std::string const& file) {
+bool bodyMesh::gdf_read(const std::string& file) {
     std::cout << " READING GDF FILE " << file << " IN ASCII FORMAT " << std::endl;
     std::ifstream stream = sorvik::files::open(file);
     sorvik::textScanner in(stream);
@@ -79,7 +79,7 @@ bool bodyMesh::gdf_read(std::string const& file) {
     return hasHeader && records == header.panels;
 }
 
-void bodyMesh::gdf_print(std::string const& file, bool wetOnly, double ULEN, double GRAV) const {
+void bodyMesh::gdf_print(const std::string& file, bool wetOnly, double ULEN, double GRAV) const {
     std::ofstream stream = sorvik::files::create(file);
     gdf_write(stream, wetOnly, ULEN, GRAV);
 }
@@ -90,7 +90,7 @@ void bodyMesh::gdf_write(std::ostream& stream, bool wetOnly, double ULEN, double
     out << ULEN << ' ' << GRAV << "\t ULEN GRAV\n";
     out << "0 0\t ISX ISY\n";
     out << (wetOnly ? static_cast<int>(wetFaces.size()) : nFaces) << '\n';
-    forChosen(wetOnly, [&](triangle const& panel) {
+    forChosen(wetOnly, [&](const triangle& panel) {
         out << panel.vertexA << ' ' << panel.vertexB << ' ' << panel.vertexC << ' ' << panel.vertexA
             << '\n';
     });

@@ -19,30 +19,30 @@ namespace {
 class nodeList {
 public:
     /// A later node replaces an earlier one of its number.
-    void set(int number, v3<float> const& p) {
+    void set(int number, const v3<float>& p) {
         const auto index = static_cast<std::size_t>(number);
-        if (index == inOrder.size()) {
-            inOrder.push_back(p);
-        } else if (index < inOrder.size()) {
-            inOrder[index] = p;
+        if (index == inOrder_.size()) {
+            inOrder_.push_back(p);
+        } else if (index < inOrder_.size()) {
+            inOrder_[index] = p;
         } else {
-            others[number] = p;
+            others_[number] = p;
         }
     }
 
     /// (0, 0, 0) for a number that was never set.
     v3<float> get(int number) const {
         const auto index = static_cast<std::size_t>(number);
-        if (number > 0 && index < inOrder.size()) {
-            return inOrder[index];
+        if (number > 0 && index < inOrder_.size()) {
+            return inOrder_[index];
         }
-        const auto other = others.find(number);
-        return other == others.end() ? v3<float>{} : other->second;
+        const auto other = others_.find(number);
+        return other == others_.end() ? v3<float>{} : other->second;
     }
 
 private:
-    std::vector<v3<float>> inOrder = std::vector<v3<float>>(1);
-    std::map<int, v3<float>> others;
+    std::vector<v3<float>> inOrder_ = std::vector<v3<float>>(1);
+    std::map<int, v3<float>> others_;
 };
 
 /// Reads the two header numbers and the first node number; returns the symmetry flag.
@@ -67,7 +67,7 @@ nodeList readNodes(sorvik::textScanner& in, int first) {
     return nodes;
 }
 
-void readPanels(sorvik::textScanner& in, nodeList const& nodes, std::vector<triangle>& faces) {
+void readPanels(sorvik::textScanner& in, const nodeList& nodes, std::vector<triangle>& faces) {
     for (;;) {
         // The end of line behind the last panel begins no other.
         in.skipSpace();
@@ -90,7 +90,7 @@ void readPanels(sorvik::textScanner& in, nodeList const& nodes, std::vector<tria
 
 } // namespace
 
-int bodyMesh::nemoh_readMeshInfo(std::string const& file, int& nNodes, int& nPanels) {
+int bodyMesh::nemoh_readMeshInfo(const std::string& file, int& nNodes, int& nPanels) {
     std::ifstream stream = sorvik::files::open(file);
     return nemoh_countMesh(stream, nNodes, nPanels);
 }
@@ -114,7 +114,7 @@ int bodyMesh::nemoh_countMesh(std::istream& stream, int& nNodes, int& nPanels) {
     return symmetry;
 }
 
-int bodyMesh::nemoh_read(std::string const& file) {
+int bodyMesh::nemoh_read(const std::string& file) {
     std::ifstream stream = sorvik::files::open(file);
     sorvik::textScanner in(stream);
     int firstNode = 0;
@@ -128,7 +128,7 @@ int bodyMesh::nemoh_read(std::string const& file) {
     return nFaces;
 }
 
-int bodyMesh::nemoh_print(std::string const& file, bool wetOnly) const {
+int bodyMesh::nemoh_print(const std::string& file, bool wetOnly) const {
     if (!wetOnly) {
         std::cout << " Warning: Nemoh mesh only supports wetFaces to be printed." << std::endl;
     }
@@ -138,17 +138,17 @@ int bodyMesh::nemoh_print(std::string const& file, bool wetOnly) const {
 
 int bodyMesh::nemoh_write(std::ostream& stream) const {
     sorvik::nodeMatcher matcher(wetFaces.size());
-    for (triangle const* panel : wetFaces) {
+    for (const triangle* panel : wetFaces) {
         matcher.addPanel(panel->vertexA, panel->vertexB, panel->vertexC);
     }
     sorvik::textWriter out(stream);
     out << "2 0\n";
     int number = 0;
-    for (v3<float> const& node : matcher.nodes()) {
+    for (const v3<float>& node : matcher.nodes()) {
         out << ++number << ' ' << node << '\n';
     }
     out << "0 0. 0. 0.\n";
-    std::vector<int> const& corners = matcher.corners();
+    const std::vector<int>& corners = matcher.corners();
     for (std::size_t i = 0; i < corners.size(); i += 3) {
         const int first = corners[i];
         out << first << ' ' << corners[i + 1] << ' ' << corners[i + 2] << ' ' << first << '\n';

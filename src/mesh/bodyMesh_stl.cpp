@@ -46,13 +46,14 @@ constexpr std::size_t panelMemory = sizeof(triangle) + 9 * sizeof(double) + 16 +
 triangle loadFacet(const char* record) {
     float values[floatsPerFacet];
     for (std::size_t i = 0; i < floatsPerFacet; ++i) {
-        const std::uint32_t word = sorvik::littleEndian::load<std::uint32_t>(record + i * sizeof(float));
+        const std::uint32_t word =
+            sorvik::littleEndian::load<std::uint32_t>(record + i * sizeof(float));
         std::memcpy(values + i, &word, sizeof word);
     }
     return triangle(values);
 }
 
-char* storeVector(char* bytes, v3<float> const& v) {
+char* storeVector(char* bytes, const v3<float>& v) {
     for (const float value : {v.x, v.y, v.z}) {
         std::uint32_t word = 0;
         std::memcpy(&word, &value, sizeof word);
@@ -65,31 +66,31 @@ char* storeVector(char* bytes, v3<float> const& v) {
 /// Facet records through a large block.
 class facetWriter {
 public:
-    explicit facetWriter(std::ostream& target) : out(target), block(facetsPerBlock * facetSize) {}
-    facetWriter(facetWriter const&) = delete;
-    facetWriter& operator=(facetWriter const&) = delete;
+    explicit facetWriter(std::ostream& target) : out_(target), block_(facetsPerBlock * facetSize) {}
+    facetWriter(const facetWriter&) = delete;
+    facetWriter& operator=(const facetWriter&) = delete;
     ~facetWriter() { flush(); }
 
-    void write(triangle const& panel) {
-        end = storeVector(end, panel.normal);
-        end = storeVector(end, panel.vertexA);
-        end = storeVector(end, panel.vertexB);
-        end = storeVector(end, panel.vertexC);
-        end = std::copy(std::begin(attribute), std::end(attribute), end);
-        if (end == block.data() + block.size()) {
+    void write(const triangle& panel) {
+        end_ = storeVector(end_, panel.normal);
+        end_ = storeVector(end_, panel.vertexA);
+        end_ = storeVector(end_, panel.vertexB);
+        end_ = storeVector(end_, panel.vertexC);
+        end_ = std::copy(std::begin(attribute), std::end(attribute), end_);
+        if (end_ == block_.data() + block_.size()) {
             flush();
         }
     }
 
 private:
     void flush() {
-        out.write(block.data(), end - block.data());
-        end = block.data();
+        out_.write(block_.data(), end_ - block_.data());
+        end_ = block_.data();
     }
 
-    std::ostream& out;
-    std::vector<char> block;
-    char* end = block.data();
+    std::ostream& out_;
+    std::vector<char> block_;
+    char* end_ = block_.data();
 };
 
 /// Appends `count` facets. Where the stream ends early, the rest repeats its last record, as far as
@@ -142,7 +143,7 @@ triangle readFacet(sorvik::textScanner& in) {
 
 /// Makes room for the facets that the rest of the file will hold, if they take as much text as
 /// those before them.
-void reserveForRest(std::string const& file, std::size_t textRead, std::vector<triangle>& faces) {
+void reserveForRest(const std::string& file, std::size_t textRead, std::vector<triangle>& faces) {
     std::error_code failed;
     const auto size = std::filesystem::file_size(file, failed);
     if (!failed && size > textRead) {
@@ -158,7 +159,7 @@ bool isFacetNext(sorvik::textScanner& in) {
     return in.good() && (next & ~lowerCaseBit) == 'F';
 }
 
-void writeFacet(sorvik::textWriter& out, triangle const& panel) {
+void writeFacet(sorvik::textWriter& out, const triangle& panel) {
     out << "\tfacet normal " << panel.normal << "\n\t\touter loop\n";
     for (auto corner : {&triangle::vertexA, &triangle::vertexB, &triangle::vertexC}) {
         out << "\t\t\tvertex " << panel.*corner << '\n';
@@ -166,13 +167,13 @@ void writeFacet(sorvik::textWriter& out, triangle const& panel) {
     out << "\t\tendloop\n\tendfacet\n";
 }
 
-bool holdsWord(std::string const& line, const char* small, const char* capital) {
+bool holdsWord(const std::string& line, const char* small, const char* capital) {
     return line.find(small) != std::string::npos || line.find(capital) != std::string::npos;
 }
 
 } // namespace
 
-bool bodyMesh::stl_isbinary(std::string const& file) {
+bool bodyMesh::stl_isbinary(const std::string& file) {
     std::ifstream in = sorvik::files::open(file);
     std::string line;
     std::getline(in, line);
@@ -183,7 +184,7 @@ bool bodyMesh::stl_isbinary(std::string const& file) {
     return !std::getline(in, line) || !holdsWord(line, "facet", "FACET");
 }
 
-bool bodyMesh::stl_read_ascii(std::string const& file) {
+bool bodyMesh::stl_read_ascii(const std::string& file) {
     std::cout << " READING STL FILE " << file << " IN ASCII FORMAT " << std::endl;
     std::ifstream stream = sorvik::files::open(file);
     sorvik::textScanner in(stream);
@@ -206,7 +207,7 @@ bool bodyMesh::stl_read_ascii(std::string const& file) {
     return in.good();
 }
 
-bool bodyMesh::stl_read(std::string const& file) {
+bool bodyMesh::stl_read(const std::string& file) {
     std::ifstream in = sorvik::files::open(file);
     char head[headerSize + countSize] = {};
     in.read(head, sizeof head);
@@ -223,24 +224,25 @@ bool bodyMesh::stl_read(std::string const& file) {
     return in.good();
 }
 
-void bodyMesh::stl_print_ascii(std::string const& file, bool wetOnly) const {
+void bodyMesh::stl_print_ascii(const std::string& file, bool wetOnly) const {
     std::ofstream stream = sorvik::files::create(file);
     sorvik::textWriter out(stream);
     out << "solid OBJECT\n";
-    forChosen(wetOnly, [&](triangle const& panel) { writeFacet(out, panel); });
+    forChosen(wetOnly, [&](const triangle& panel) { writeFacet(out, panel); });
     out << "endsolid OBJECT\n";
 }
 
-void bodyMesh::stl_print(std::string const& file, bool wetOnly) const {
+void bodyMesh::stl_print(const std::string& file, bool wetOnly) const {
     std::ofstream stream = sorvik::files::create(file);
     stl_write(stream, wetOnly);
 }
 
 void bodyMesh::stl_write(std::ostream& stream, bool wetOnly) const {
     char head[headerSize + countSize] = {};
-    sorvik::littleEndian::store(head + headerSize, wetOnly ? static_cast<std::uint32_t>(wetFaces.size())
-                                                   : std::uint32_t(nFaces));
+    sorvik::littleEndian::store(head + headerSize, wetOnly
+                                                       ? static_cast<std::uint32_t>(wetFaces.size())
+                                                       : std::uint32_t(nFaces));
     stream.write(head, sizeof head);
     facetWriter out(stream);
-    forChosen(wetOnly, [&](triangle const& panel) { out.write(panel); });
+    forChosen(wetOnly, [&](const triangle& panel) { out.write(panel); });
 }

@@ -16,11 +16,11 @@ constexpr double cellsPerMetre = 8192;
 constexpr double reach = 1.1e-5;
 static_assert(2 * reach * cellsPerMetre < 1, "a corner reaches into two cells along an axis");
 
-bool isFinite(v3<float> const& p) {
+bool isFinite(const v3<float>& p) {
     return std::isfinite(p.x) && std::isfinite(p.y) && std::isfinite(p.z);
 }
 
-bool isNear(v3<float> const& a, v3<float> const& b) {
+bool isNear(const v3<float>& a, const v3<float>& b) {
     return nodeMatcher::tolerance > static_cast<double>(length(a - b));
 }
 
@@ -37,7 +37,7 @@ std::uint64_t mix(std::uint64_t hash, double value) {
     return hash ^ (hash >> 32);
 }
 
-bool isSame(v3<float> const& a, v3<float> const& b) {
+bool isSame(const v3<float>& a, const v3<float>& b) {
     return a.x == b.x && a.y == b.y && a.z == b.z;
 }
 
@@ -72,13 +72,13 @@ nodeMatcher::nodeMatcher(std::size_t panels) {
     while (size < panels) {
         size *= 2;
     }
-    buckets.resize(size);
-    allNodes.reserve(panels / 2);
-    links.reserve(panels / 2);
-    allCorners.reserve(3 * panels);
+    buckets_.resize(size);
+    allNodes_.reserve(panels / 2);
+    links_.reserve(panels / 2);
+    allCorners_.reserve(3 * panels);
 }
 
-void nodeMatcher::addPanel(v3<float> const& a, v3<float> const& b, v3<float> const& c) {
+void nodeMatcher::addPanel(const v3<float>& a, const v3<float>& b, const v3<float>& c) {
     const v3<float> points[] = {a, b, c};
     int found[3];
     for (int i = 0; i < 3; ++i) {
@@ -88,19 +88,19 @@ void nodeMatcher::addPanel(v3<float> const& a, v3<float> const& b, v3<float> con
         if (found[i] == 0) {
             // A node of this very panel in front of it would be the lower match of later corners.
             const bool isShadowed = std::any_of(
-                points, points + i, [&](v3<float> const& p) { return isNear(points[i], p); });
+                points, points + i, [&](const v3<float>& p) { return isNear(points[i], p); });
             found[i] = add(points[i], !isShadowed);
         }
-        allCorners.push_back(found[i]);
+        allCorners_.push_back(found[i]);
     }
 }
 
 /// The lowest node within the tolerance, or 0.
-int nodeMatcher::find(v3<float> const& p) const {
+int nodeMatcher::find(const v3<float>& p) const {
     if (!isFinite(p)) {
         return 0;
     }
-    for (int n = buckets[bucketOf(p)]; n != 0; n = nextOf(n)) {
+    for (int n = buckets_[bucketOf(p)]; n != 0; n = nextOf(n)) {
         if (isLowest(n) && isSame(p, at(n))) {
             return n;
         }
@@ -117,9 +117,9 @@ int nodeMatcher::find(v3<float> const& p) const {
     return lowest;
 }
 
-int nodeMatcher::lowestIn(std::size_t bucket, v3<float> const& p) const {
+int nodeMatcher::lowestIn(std::size_t bucket, const v3<float>& p) const {
     int lowest = 0;
-    for (int n = buckets[bucket]; n != 0; n = nextOf(n)) {
+    for (int n = buckets_[bucket]; n != 0; n = nextOf(n)) {
         if (isNear(p, at(n))) {
             lowest = lower(lowest, n);
         }
@@ -128,17 +128,17 @@ int nodeMatcher::lowestIn(std::size_t bucket, v3<float> const& p) const {
 }
 
 /// Adds a node; `lowest` says that no lower one is near it.
-int nodeMatcher::add(v3<float> const& p, bool lowest) {
-    allNodes.push_back(p);
-    links.push_back(lowest ? 1 : 0);
-    const auto node = static_cast<int>(allNodes.size());
-    if (allNodes.size() <= buckets.size()) {
+int nodeMatcher::add(const v3<float>& p, bool lowest) {
+    allNodes_.push_back(p);
+    links_.push_back(lowest ? 1 : 0);
+    const auto node = static_cast<int>(allNodes_.size());
+    if (allNodes_.size() <= buckets_.size()) {
         putInBucket(node);
         return node;
     }
-    buckets.assign(2 * buckets.size(), 0);
+    buckets_.assign(2 * buckets_.size(), 0);
     for (int n = 1; n <= node; ++n) {
-        links[static_cast<std::size_t>(n) - 1] %= 2;
+        links_[static_cast<std::size_t>(n) - 1] %= 2;
         putInBucket(n);
     }
     return node;
@@ -147,17 +147,17 @@ int nodeMatcher::add(v3<float> const& p, bool lowest) {
 /// Nothing is near a node that is not finite: it is in no bucket.
 void nodeMatcher::putInBucket(int node) {
     if (isFinite(at(node))) {
-        int& latest = buckets[bucketOf(at(node))];
-        links[static_cast<std::size_t>(node) - 1] += 2 * latest;
+        int& latest = buckets_[bucketOf(at(node))];
+        links_[static_cast<std::size_t>(node) - 1] += 2 * latest;
         latest = node;
     }
 }
 
 std::size_t nodeMatcher::bucketOf(double x, double y, double z) const {
-    return static_cast<std::size_t>(mix(mix(mix(1, x), y), z)) & (buckets.size() - 1);
+    return static_cast<std::size_t>(mix(mix(mix(1, x), y), z)) & (buckets_.size() - 1);
 }
 
-std::size_t nodeMatcher::bucketOf(v3<float> const& p) const {
+std::size_t nodeMatcher::bucketOf(const v3<float>& p) const {
     return bucketOf(cellOf(static_cast<double>(p.x)), cellOf(static_cast<double>(p.y)),
                     cellOf(static_cast<double>(p.z)));
 }

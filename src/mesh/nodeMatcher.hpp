@@ -24,32 +24,32 @@ public:
 
     /// Appends the node numbers, from 1, of the three corners of a panel. Corners of the same panel
     /// are matched with the nodes of earlier panels only, never with each other.
-    void addPanel(v3<float> const& a, v3<float> const& b, v3<float> const& c);
+    void addPanel(const v3<float>& a, const v3<float>& b, const v3<float>& c);
 
     /// Node coordinates in the order of their numbers.
-    std::vector<v3<float>> const& nodes() const { return allNodes; }
+    const std::vector<v3<float>>& nodes() const { return allNodes_; }
     /// Node numbers, three a panel.
-    std::vector<int> const& corners() const { return allCorners; }
+    const std::vector<int>& corners() const { return allCorners_; }
 
 private:
-    int find(v3<float> const& p) const;
-    int lowestIn(std::size_t bucket, v3<float> const& p) const;
-    int add(v3<float> const& p, bool lowest);
+    int find(const v3<float>& p) const;
+    int lowestIn(std::size_t bucket, const v3<float>& p) const;
+    int add(const v3<float>& p, bool lowest);
     void putInBucket(int node);
     std::size_t bucketOf(double x, double y, double z) const;
-    std::size_t bucketOf(v3<float> const& p) const;
-    int nextOf(int node) const { return links[static_cast<std::size_t>(node) - 1] / 2; }
-    bool isLowest(int node) const { return links[static_cast<std::size_t>(node) - 1] % 2 != 0; }
-    v3<float> const& at(int node) const { return allNodes[static_cast<std::size_t>(node) - 1]; }
+    std::size_t bucketOf(const v3<float>& p) const;
+    int nextOf(int node) const { return links_[static_cast<std::size_t>(node) - 1] / 2; }
+    bool isLowest(int node) const { return links_[static_cast<std::size_t>(node) - 1] % 2 != 0; }
+    const v3<float>& at(int node) const { return allNodes_[static_cast<std::size_t>(node) - 1]; }
 
-    std::vector<v3<float>> allNodes;
+    std::vector<v3<float>> allNodes_;
     /// By node: twice the node before it in its bucket (0: none), plus 1 where no lower node is
     /// near it, so that it is the match of its own coordinates.
-    std::vector<int> links;
-    std::vector<int> allCorners;
+    std::vector<int> links_;
+    std::vector<int> allCorners_;
     /// The latest node of each bucket, or 0. A bucket holds the nodes of one cell, and now and then
     /// of others; a power of two of them, at least as many as nodes.
-    std::vector<int> buckets;
+    std::vector<int> buckets_;
 };
 
 } // namespace sorvik

@@ -7,7 +7,7 @@
 namespace sorvik {
 
 /// Writes "x y z".
-inline textWriter& operator<<(textWriter& out, v3<float> const& p) {
+inline textWriter& operator<<(textWriter& out, const v3<float>& p) {
     return out << p.x << ' ' << p.y << ' ' << p.z;
 }
 

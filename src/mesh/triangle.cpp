@@ -13,12 +13,12 @@ float normalised(float component, float norm) {
     return isUndefined ? -std::numeric_limits<float>::quiet_NaN() : component / norm;
 }
 
-v3<float> toV3(float const* p) {
+v3<float> toV3(const float* p) {
     return {p[0], p[1], p[2]};
 }
 
 /// The product of three coefficients with p, rounded to float.
-float product(double a, double b, double c, v3<float> const& p) {
+float product(double a, double b, double c, const v3<float>& p) {
     return static_cast<float>(a * static_cast<double>(p.x) + b * static_cast<double>(p.y) +
                               c * static_cast<double>(p.z));
 }
@@ -27,14 +27,14 @@ float product(double a, double b, double c, v3<float> const& p) {
 
 triangle::triangle() : triangle({0, 0, 1}, {-1, 0, 0}, {1, 0, 0}, {0, 1, 0}) {}
 
-triangle::triangle(float const* p) : triangle(toV3(p), toV3(p + 3), toV3(p + 6), toV3(p + 9)) {}
+triangle::triangle(const float* p) : triangle(toV3(p), toV3(p + 3), toV3(p + 6), toV3(p + 9)) {}
 
-triangle::triangle(v3<float> const& n, v3<float> const& A, v3<float> const& B, v3<float> const& C)
+triangle::triangle(const v3<float>& n, const v3<float>& A, const v3<float>& B, const v3<float>& C)
     : normal(n), vertexA(A), vertexB(B), vertexC(C) {
     update();
 }
 
-triangle::triangle(v3<float> const& A, v3<float> const& B, v3<float> const& C)
+triangle::triangle(const v3<float>& A, const v3<float>& B, const v3<float>& C)
     : vertexA(A), vertexB(B), vertexC(C) {
     areaVector = cross(B - A, 0.5F * (C - A));
     const float norm = length(areaVector);
@@ -74,7 +74,7 @@ void triangle::shift(v3<float> d) {
     centroid = centroid - d;
 }
 
-void triangle::rotate(double const* R) {
+void triangle::rotate(const double* R) {
     rotate(R, normal);
     rotate(R, vertexA);
     rotate(R, vertexB);
@@ -82,11 +82,11 @@ void triangle::rotate(double const* R) {
     update();
 }
 
-void triangle::rotate(double const* R, v3<float>& p) {
+void triangle::rotate(const double* R, v3<float>& p) {
     p = {product(R[0], R[1], R[2], p), product(R[3], R[4], R[5], p), product(R[6], R[7], R[8], p)};
 }
 
-void triangle::rotateT(double const* R, v3<float>& p) {
+void triangle::rotateT(const double* R, v3<float>& p) {
     p = {product(R[0], R[3], R[6], p), product(R[1], R[4], R[7], p), product(R[2], R[5], R[8], p)};
 }
 

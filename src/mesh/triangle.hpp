@@ -23,11 +23,11 @@ public:
     /// The panel (-1, 0, 0), (1, 0, 0), (0, 1, 0) with its normal along z and an area of 1.
     triangle();
     /// From 12 floats: normal, A, B, C, as in an STL facet. The normal is taken as given.
-    explicit triangle(float const* p);
+    explicit triangle(const float* p);
     /// From its corners; the normal follows from their order (right-hand rule).
-    triangle(v3<float> const& A, v3<float> const& B, v3<float> const& C);
+    triangle(const v3<float>& A, const v3<float>& B, const v3<float>& C);
     /// From its corners, with the normal taken as given.
-    triangle(v3<float> const& n, v3<float> const& A, v3<float> const& B, v3<float> const& C);
+    triangle(const v3<float>& n, const v3<float>& A, const v3<float>& B, const v3<float>& C);
 
     /// The area [m²] of the corners as they are; stores nothing.
     double computeArea() const;
@@ -38,11 +38,11 @@ public:
     /// Moves the panel by minus `d`.
     void shift(v3<float> d);
     /// Applies the rotation R (9 doubles, row-major, x' = R x) to corners and normal.
-    void rotate(double const* R);
+    void rotate(const double* R);
     /// Replaces p by R p, in double, rounded to float.
-    static void rotate(double const* R, v3<float>& p);
+    static void rotate(const double* R, v3<float>& p);
     /// Replaces p by the transpose of R times p.
-    static void rotateT(double const* R, v3<float>& p);
+    static void rotateT(const double* R, v3<float>& p);
 
 private:
     void setCentroid();

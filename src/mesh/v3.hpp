@@ -17,41 +17,41 @@ struct v3 {
     /// Outer product of this vector with `b`, row-major: M[3i + j] = this_i * b_j, formed in T and
     /// widened. Added to M where `add` is set, else written. M has 9 entries; any other size ends
     /// the process with status -1.
-    void OP(v3 const& b, std::vector<double>& M, bool add) const;
+    void OP(const v3& b, std::vector<double>& M, bool add) const;
 };
 
 template <class T>
-v3<T> operator+(v3<T> const& a, v3<T> const& b) {
+v3<T> operator+(const v3<T>& a, const v3<T>& b) {
     return {a.x + b.x, a.y + b.y, a.z + b.z};
 }
 
 template <class T>
-v3<T> operator-(v3<T> const& a, v3<T> const& b) {
+v3<T> operator-(const v3<T>& a, const v3<T>& b) {
     return {a.x - b.x, a.y - b.y, a.z - b.z};
 }
 
 template <class T>
-v3<T> operator*(T s, v3<T> const& a) {
+v3<T> operator*(T s, const v3<T>& a) {
     return {s * a.x, s * a.y, s * a.z};
 }
 
 template <class T>
-v3<T> operator/(v3<T> const& a, T s) {
+v3<T> operator/(const v3<T>& a, T s) {
     return {a.x / s, a.y / s, a.z / s};
 }
 
 template <class T>
-v3<T> cross(v3<T> const& a, v3<T> const& b) {
+v3<T> cross(const v3<T>& a, const v3<T>& b) {
     return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
 }
 
 template <class T>
-T length(v3<T> const& a) {
+T length(const v3<T>& a) {
     return std::sqrt(a.x * a.x + a.y * a.y + a.z * a.z);
 }
 
 template <class T>
-void v3<T>::OP(v3 const& b, std::vector<double>& M, bool add) const {
+void v3<T>::OP(const v3& b, std::vector<double>& M, bool add) const {
     if (M.size() != 9) {
         sorvik::endWithLine("Fatal error. Size of v3 open product target is not 9. Exit. ", -1);
     }

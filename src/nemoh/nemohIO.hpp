@@ -38,8 +38,8 @@ public:
     /// Opens `Nemoh.cal`, overwriting, and writes the environment and the number of bodies. `rho`
     /// in kg/m³, `gravity` in m/s² (positive), `depth` and the point (x, y) of zero wave phase in
     /// m.
-    void setEnv(double const& rho, double const& gravity, double const& depth, double const& x,
-                double const& y, int bodies);
+    void setEnv(const double& rho, const double& gravity, const double& depth, const double& x,
+                const double& y, int bodies);
 
     /// Leaves its arguments as they are.
     void getEnv(double& rho, double& gravity, double& depth, double& x, double& y) const;
@@ -50,8 +50,8 @@ public:
     /// motions and forces alike. `refPoint` holds x, y, z [m] of the point that rotations turn
     /// about. `rotation` is empty or the 3 x 3 matrix, row-major, that turns the axes of the
     /// degrees of freedom.
-    void addBody(const std::string& meshName, int points, int panels, std::vector<int> const& dofs,
-                 std::vector<double> const& refPoint, std::vector<double> const& rotation);
+    void addBody(const std::string& meshName, int points, int panels, const std::vector<int>& dofs,
+                 const std::vector<double>& refPoint, const std::vector<double>& rotation);
 
     /// Writes the angular frequencies [rad/s] and the wave directions [degrees], evenly spaced
     /// between the ends.
@@ -115,7 +115,7 @@ public:
     static void transposeTo(int rows, int cols, const double* source, double* target);
 
 private:
-    std::string folder;
-    std::ofstream cal;
-    int nBodies = 0;
+    std::string folder_;
+    std::ofstream cal_;
+    int nBodies_ = 0;
 };

@@ -9,8 +9,8 @@
 #include <array>
 #include <cassert>
 #include <cmath>
-#include <ostream>
 #include <limits>
+#include <ostream>
 
 // Nemoh.cal is read by line: values first, then a comment. Sections, in Nemoh's order:
 //
@@ -38,7 +38,7 @@ constexpr const char* solverSettings =
 /// Three unit vectors, one per row.
 using axes = std::array<double, 9>;
 
-axes turnedAxes(std::vector<double> const& rotation) {
+axes turnedAxes(const std::vector<double>& rotation) {
     const axes unit = {1, 0, 0, 0, 1, 0, 0, 0, 1};
     if (rotation.empty()) {
         return unit;
@@ -55,7 +55,7 @@ void printVector(std::ostream& out, const double* v) {
     out << nemohIO::printVal(v[0]) << nemohIO::printVal(v[1]) << nemohIO::printVal(v[2]);
 }
 
-void printDofs(std::ostream& out, const char* what, std::vector<int> const& dofs,
+void printDofs(std::ostream& out, const char* what, const std::vector<int>& dofs,
                const axes& directions, const double* refPoint) {
     out << dofs.size() << " \t ! number of " << what << "s to compute\n";
     for (const int dof : dofs) {
@@ -70,9 +70,9 @@ void printDofs(std::ostream& out, const char* what, std::vector<int> const& dofs
 
 } // namespace
 
-nemohIO::nemohIO(std::string path) : folder(std::move(path)) {
+nemohIO::nemohIO(std::string path) : folder_(std::move(path)) {
     for (const char* name : {"", "/mesh", "/results"}) {
-        reader::makeFolder(folder + name);
+        reader::makeFolder(folder_ + name);
     }
 }
 
@@ -84,78 +84,78 @@ std::string nemohIO::printVal(double value) {
 }
 
 void nemohIO::printCalHdr(const std::string& name, int number) {
-    if (!cal.good()) {
-        sorvik::endWithError("Cannot write to or open " + folder + "/Nemoh.cal for some reason.");
+    if (!cal_.good()) {
+        sorvik::endWithError("Cannot write to or open " + folder_ + "/Nemoh.cal for some reason.");
     }
-    cal << "--- " << name << ' ';
+    cal_ << "--- " << name << ' ';
     std::ptrdiff_t dashes = headerLength;
     if (number != noNumber) {
-        cal << number << ' ';
+        cal_ << number << ' ';
         dashes = numberedLength;
     }
     dashes -= static_cast<std::ptrdiff_t>(name.size());
-    cal << std::string(dashes > 0 ? static_cast<std::size_t>(dashes) : 0, '-') << '\n';
+    cal_ << std::string(dashes > 0 ? static_cast<std::size_t>(dashes) : 0, '-') << '\n';
 
     // Of the two control files only Nemoh.cal is worth stopping for.
-    sorvik::files::create(folder + "/input_solver.txt") << solverSettings;
+    sorvik::files::create(folder_ + "/input_solver.txt") << solverSettings;
 }
 
-void nemohIO::setEnv(double const& rho, double const& gravity, double const& depth, double const& x,
-                     double const& y, int bodies) {
-    if (!cal.is_open()) {
-        cal = sorvik::files::create(folder + "/Nemoh.cal");
+void nemohIO::setEnv(const double& rho, const double& gravity, const double& depth, const double& x,
+                     const double& y, int bodies) {
+    if (!cal_.is_open()) {
+        cal_ = sorvik::files::create(folder_ + "/Nemoh.cal");
     }
     printCalHdr("Environment", noNumber);
-    cal << printVal(rho) << "\t ! rho kg/m3 \n"
-        << printVal(gravity) << "\t ! gravity m/s2 \n"
-        << printVal(depth) << "\t ! water depth m \n"
-        << printVal(x) << printVal(y) << "\t ! wave elevation point (zero phase) \n";
+    cal_ << printVal(rho) << "\t ! rho kg/m3 \n"
+         << printVal(gravity) << "\t ! gravity m/s2 \n"
+         << printVal(depth) << "\t ! water depth m \n"
+         << printVal(x) << printVal(y) << "\t ! wave elevation point (zero phase) \n";
     printCalHdr("Description of floating bodies", noNumber);
-    cal << bodies << "\t ! number of bodies\n" << std::flush;
+    cal_ << bodies << "\t ! number of bodies\n" << std::flush;
 }
 
 void nemohIO::getEnv(double& /*rho*/, double& /*gravity*/, double& /*depth*/, double& /*x*/,
                      double& /*y*/) const {}
 
 void nemohIO::addBody(const std::string& meshName, int points, int panels,
-                      std::vector<int> const& dofs, std::vector<double> const& refPoint,
-                      std::vector<double> const& rotation) {
+                      const std::vector<int>& dofs, const std::vector<double>& refPoint,
+                      const std::vector<double>& rotation) {
     assert(refPoint.size() >= 3);
-    printCalHdr("Body", ++nBodies);
-    cal << meshName << "\t ! mesh file name \n"
-        << points << ' ' << panels << "\t ! number of points and panels in the mesh\n";
+    printCalHdr("Body", ++nBodies_);
+    cal_ << meshName << "\t ! mesh file name \n"
+         << points << ' ' << panels << "\t ! number of points and panels in the mesh\n";
     const axes directions = turnedAxes(rotation);
-    printDofs(cal, "body motion", dofs, directions, refPoint.data());
-    printDofs(cal, "force", dofs, directions, refPoint.data());
-    cal << "0\t\t ! number of additional lines\n" << std::flush;
+    printDofs(cal_, "body motion", dofs, directions, refPoint.data());
+    printDofs(cal_, "force", dofs, directions, refPoint.data());
+    cal_ << "0\t\t ! number of additional lines\n" << std::flush;
 }
 
 void nemohIO::addLoadCases(int freqs, double w0, double w1, int directions, double dir0,
                            double dir1) {
     printCalHdr("Load cases to be solved", noNumber);
-    cal << "1 " << freqs << ' ' << printVal(w0) << printVal(w1)
-        << "\t ! mode (radians/s), number of frequencies, [min max] in rad/s.\n"
-        << directions << ' ' << printVal(dir0) << printVal(dir1)
-        << "\t ! Number of wave directions, [min,max] in degrees.\n"
-        << std::flush;
+    cal_ << "1 " << freqs << ' ' << printVal(w0) << printVal(w1)
+         << "\t ! mode (radians/s), number of frequencies, [min max] in rad/s.\n"
+         << directions << ' ' << printVal(dir0) << printVal(dir1)
+         << "\t ! Number of wave directions, [min,max] in degrees.\n"
+         << std::flush;
 }
 
 void nemohIO::addPostProc(double step, double duration) {
     printCalHdr("Post processing", noNumber);
-    cal << (step > 0 ? 1 : 0) << ' ' << printVal(step) << printVal(duration)
-        << "\t ! Impulse Response Function (IRF): switch, time step size , and duration  (s)\n"
-        << "0 \t\t ! Dont show pressure\n"
-        << "0 " << printVal(0) << printVal(180) << "\t ! Kochin function output\n"
-        << "0 50 200 200\t ! Free surface elevation \n"
-        << "0 \t\t ! Response Amplitude Operator (RAO), 0 no calculation, 1 calculated \n"
-        << "1 \t\t !output freq type, 1,2,3=[rad/s,Hz,s] \n"
-        << "---QTF---\n"
-        << "0\t\t ! QTF flag, 1 is calculated\n"
-        << "----------\n"
-        << std::flush;
+    cal_ << (step > 0 ? 1 : 0) << ' ' << printVal(step) << printVal(duration)
+         << "\t ! Impulse Response Function (IRF): switch, time step size , and duration  (s)\n"
+         << "0 \t\t ! Dont show pressure\n"
+         << "0 " << printVal(0) << printVal(180) << "\t ! Kochin function output\n"
+         << "0 50 200 200\t ! Free surface elevation \n"
+         << "0 \t\t ! Response Amplitude Operator (RAO), 0 no calculation, 1 calculated \n"
+         << "1 \t\t !output freq type, 1,2,3=[rad/s,Hz,s] \n"
+         << "---QTF---\n"
+         << "0\t\t ! QTF flag, 1 is calculated\n"
+         << "----------\n"
+         << std::flush;
 }
 
 bool nemohIO::finish() {
-    cal.close();
-    return cal.good();
+    cal_.close();
+    return cal_.good();
 }

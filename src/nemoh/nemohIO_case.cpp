@@ -100,7 +100,7 @@ void nemohIO::skipLines(std::istream& in, int count) {
 
 int nemohIO::readCase(int& freqs, std::vector<double>& frequencies, int& directions,
                       std::vector<double>& angles) const {
-    const std::string file = folder + "/Nemoh.cal";
+    const std::string file = folder_ + "/Nemoh.cal";
     std::ifstream in = openCal(file);
     findSection(in, file, "--- Description");
     const int bodies = readCount(in, file, "the number of bodies");
@@ -129,7 +129,7 @@ int nemohIO::readCase(int& freqs, std::vector<double>& frequencies, int& directi
 }
 
 int nemohIO::readBody(int body, int& motions, int& forces, std::vector<double>& refPoint) const {
-    std::ifstream in = openCal(folder + "/Nemoh.cal");
+    std::ifstream in = openCal(folder_ + "/Nemoh.cal");
     motions = -1;
     forces = -1;
     if (skipToKey(in, "--- Body " + std::to_string(body)) < 0) {

@@ -52,7 +52,8 @@ dofCount countDofs(const nemohIO& project, int bodies) {
         int motions = 0;
         int forces = 0;
         if (project.readBody(body, motions, forces, refPoint) != 0) {
-            sorvik::endWithError("Can not find Body " + std::to_string(body) + " in Nemoh.cal file");
+            sorvik::endWithError("Can not find Body " + std::to_string(body) +
+                                 " in Nemoh.cal file");
         }
         all.motions += motions;
         all.forces += forces;
@@ -66,41 +67,41 @@ public:
     /// Opens `name` in `Results` or `results` of the project.
     resultLines(const std::string& project, const std::string& name) {
         for (const char* folder : {"/Results/", "/results/"}) {
-            file = (project + folder).append(name);
-            in = sorvik::files::open(file);
-            if (in.is_open()) {
+            file_ = (project + folder).append(name);
+            in_ = sorvik::files::open(file_);
+            if (in_.is_open()) {
                 return;
             }
         }
-        sorvik::endWithError("Could not open file " + file + ". Exiting.");
+        sorvik::endWithError("Could not open file " + file_ + ". Exiting.");
     }
 
     bool next() {
-        while (std::getline(in, text)) {
-            ++number;
-            start = text.find_first_not_of(" \t\r");
-            if (start != std::string::npos) {
+        while (std::getline(in_, text_)) {
+            ++number_;
+            start_ = text_.find_first_not_of(" \t\r");
+            if (start_ != std::string::npos) {
                 return true;
             }
         }
-        text.clear();
+        text_.clear();
         return false;
     }
 
-    const std::string& line() const { return text; }
+    const std::string& line() const { return text_; }
     /// The first character that is no blank.
-    char mark() const { return text[start]; }
+    char mark() const { return text_[start_]; }
 
     [[noreturn]] void fatal(const std::string& expected) const {
-        sorvik::fatalLine(file, std::max(number, 1), expected, text);
+        sorvik::fatalLine(file_, std::max(number_, 1), expected, text_);
     }
 
 private:
-    std::string file;
-    std::ifstream in;
-    std::string text;
-    std::size_t start = 0;
-    int number = 0;
+    std::string file_;
+    std::ifstream in_;
+    std::string text_;
+    std::size_t start_ = 0;
+    int number_ = 0;
 };
 
 /// Appends the pairs of a line. Its frequency is known from the case.
@@ -186,14 +187,14 @@ void nemohIO::readCoeffs(int freqs, int bodies, std::vector<double>& addedMass,
     std::cout << "Reading nemoh case for: " << freqs << " frequencies and bodies: " << bodies
               << std::endl;
     const dofCount dofs = countDofs(*this, bodies);
-    readResults(folder, "RadiationCoefficients.tec", dofs.motions + 2,
+    readResults(folder_, "RadiationCoefficients.tec", dofs.motions + 2,
                 {dofs.motions, freqs, dofs.forces}, addedMass, damping);
 }
 
 void nemohIO::readExcitation(int freqs, int directions, int bodies, std::vector<double>& amplitudes,
                              std::vector<double>& phases) const {
     const dofCount dofs = countDofs(*this, bodies);
-    readResults(folder, "ExcitationForce.tec", dofs.forces + 2, {directions, freqs, dofs.forces},
+    readResults(folder_, "ExcitationForce.tec", dofs.forces + 2, {directions, freqs, dofs.forces},
                 amplitudes, phases);
 }
 
@@ -202,7 +203,7 @@ void nemohIO::readForce(const std::string& ending, int freqs, int directions, in
     const std::int64_t headLines = countDofs(*this, 1).forces + 2;
     std::vector<double> amplitudes;
     std::vector<double> phases;
-    readResults(folder, ending, headLines,
+    readResults(folder_, ending, headLines,
                 {directions, freqs, static_cast<std::int64_t>(bodies) * forces}, amplitudes,
                 phases);
     values.resize(amplitudes.size());

@@ -38,7 +38,7 @@ void printFatal(const std::string& message) {
 }
 
 /// The text of a key, or what is wrong without it.
-std::optional<std::string> required(inputMap const& inputs, const char* key, const char* message) {
+std::optional<std::string> required(const inputMap& inputs, const char* key, const char* message) {
     const auto entry = inputs.map.find(key);
     if (entry == inputs.map.end()) {
         std::cout << " ERROR: " << message << std::endl;
@@ -47,7 +47,7 @@ std::optional<std::string> required(inputMap const& inputs, const char* key, con
     return entry->second;
 }
 
-void writeEnvironment(inputMap const& inputs, nemohIO& project) {
+void writeEnvironment(const inputMap& inputs, nemohIO& project) {
     const double density = inputs.read("environment.waterDensity", 1000.0);
     const double gravity = inputs.read("environment.gravity", -9.81);
     double depth = 0;
@@ -61,7 +61,7 @@ void writeEnvironment(inputMap const& inputs, nemohIO& project) {
     project.setEnv(density, -gravity, depth, 0.0, 0.0, oneBody);
 }
 
-bodySettings readBodySettings(inputMap const& inputs, const std::string& body) {
+bodySettings readBodySettings(const inputMap& inputs, const std::string& body) {
     const std::vector<double> zero(3, 0.0);
     bodySettings settings;
     settings.prefix = "hydroBody" + body + ".bemInput.";
@@ -158,7 +158,7 @@ std::optional<projectMesh> keepMesh(const bodySettings& settings, const std::str
     return kept;
 }
 
-void writeLoadCases(inputMap const& inputs, nemohIO& project) {
+void writeLoadCases(const inputMap& inputs, nemohIO& project) {
     const double w0 = inputs.read("bem.w0", 0.01);
     const double w1 = inputs.read("bem.w1", 5.0);
     const int freqs = inputs.read("bem.nFreqs", 2);
@@ -175,7 +175,7 @@ void writeLoadCases(inputMap const& inputs, nemohIO& project) {
 
 } // namespace
 
-int setNemohCase(inputMap const& inputs) {
+int setNemohCase(const inputMap& inputs) {
     // The message names a longer key than the one that is read; callers count on both.
     const auto output = required(inputs, "bem.output",
                                  "No output specified. Please specify output folder as "

@@ -71,7 +71,7 @@ void lerpVector(double t, const double* a, const double* b, double* c) {
 
 } // namespace
 
-void matrixOp::interpolateLinear(int n, int m, double const& at, const double* x, const double* Y,
+void matrixOp::interpolateLinear(int n, int m, const double& at, const double* x, const double* Y,
                                  double* y) {
     if (n < 2) {
         std::copy_n(Y, n == 1 ? m : 0, y);
@@ -85,7 +85,7 @@ void matrixOp::interpolateLinear(int n, int m, double const& at, const double* x
     }
 }
 
-double matrixOp::interpolateLinear(int n, double const& at, const double* x, const double* y) {
+double matrixOp::interpolateLinear(int n, const double& at, const double* x, const double* y) {
     double value = std::numeric_limits<double>::quiet_NaN();
     interpolateLinear(n, 1, at, x, y, &value);
     return value;
@@ -103,7 +103,7 @@ void matrixOp::lerpFactors(int n, int m, const double* x, const double* at, int*
     }
 }
 
-void matrixOp::slerp(double const& t, const double* a, const double* b, double* c) {
+void matrixOp::slerp(const double& t, const double* a, const double* b, double* c) {
     const arc way = arcBetween(a, b);
     if (way.kind == course::equal) {
         lerpVector(t, a, b, c);
@@ -133,7 +133,7 @@ void matrixOp::slerpFactors(int m, const double* t, const double* a, const doubl
     }
 }
 
-void matrixOp::slerpVector(int n, double const& t, const double* a, const double* b, double* c) {
+void matrixOp::slerpVector(int n, const double& t, const double* a, const double* b, double* c) {
     const double share = t;
     for (; n > 0; --n, a += 3, b += 3, c += 3) {
         const double lengthA = length(a);

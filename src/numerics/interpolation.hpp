@@ -8,10 +8,10 @@ namespace matrixOp {
 ///
 /// Outside x the first and the last row hold. Where an abscissa stands more than once, its last row
 /// counts. A NaN in `at` gives NaN.
-void interpolateLinear(int n, int m, double const& at, const double* x, const double* Y, double* y);
+void interpolateLinear(int n, int m, const double& at, const double* x, const double* Y, double* y);
 
 /// The same for one column. NaN for n below 1.
-double interpolateLinear(int n, double const& at, const double* x, const double* y);
+double interpolateLinear(int n, const double& at, const double* x, const double* y);
 
 /// Weight table for m abscissae `at` in the n ascending abscissae x, by the rules above: the value
 /// at at[p] is w[2p] * y[lower[p]] + w[2p+1] * y[lower[p] + 1]. The weights of a pair lie in 0 to 1
@@ -29,7 +29,7 @@ constexpr double parallelTolerance = 1e-15;
 /// Opposite vectors have no shorter arc: theirs starts from a towards a × e, where e is the axis of
 /// the smallest component of a, the first of equal ones. t outside 0 to 1 goes on along the circle.
 /// c may be a or b.
-void slerp(double const& t, const double* a, const double* b, double* c);
+void slerp(const double& t, const double* a, const double* b, double* c);
 
 /// Weight table of slerp for m shares t: the vector at t[p] is w[2p] * a + w[2p+1] * b, with the
 /// weights sin((1-t) angle) / sin(angle) and sin(t angle) / sin(angle).
@@ -41,6 +41,6 @@ void slerpFactors(int m, const double* t, const double* a, const double* b, doub
 
 /// Interpolates n interleaved vectors of any length: the direction by slerp, the length linearly. A
 /// pair with a vector of length zero (or subnormal) is interpolated linearly. c may be a or b.
-void slerpVector(int n, double const& t, const double* a, const double* b, double* c);
+void slerpVector(int n, const double& t, const double* a, const double* b, double* c);
 
 } // namespace matrixOp

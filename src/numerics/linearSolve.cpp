@@ -25,7 +25,7 @@ void checkSquare(const mMatrix& A) {
 void checkRows(const mMatrix& A, const mMatrix& b) {
     if (b.rows != A.rows) {
         sorvik::endWithError("A matrix of " + shape(A) + " needs a right-hand side of " +
-                       std::to_string(A.rows) + " rows, found " + shape(b) + ".");
+                             std::to_string(A.rows) + " rows, found " + shape(b) + ".");
     }
 }
 
@@ -34,12 +34,13 @@ void checkShapes(const mMatrix& A, const mMatrix& x, const mMatrix& b) {
     checkRows(A, b);
     if (x.rows != b.rows || x.cols != b.cols) {
         sorvik::endWithError("A right-hand side of " + shape(b) +
-                       " needs a solution of that size, found " + shape(x) + ".");
+                             " needs a solution of that size, found " + shape(x) + ".");
     }
 }
 
 void failSingular(const mMatrix& A) {
-    sorvik::endWithError("A matrix of " + shape(A) + " is singular or has entries that are not finite.");
+    sorvik::endWithError("A matrix of " + shape(A) +
+                         " is singular or has entries that are not finite.");
 }
 
 /// The largest magnitude in each row, and then in each column of the matrix with its rows divided
@@ -136,7 +137,7 @@ void matrixOp::solveAxb(mMatrix& A, mMatrix* x, mMatrix* b) {
     bckSub(A, x, b);
 }
 
-void matrixOp::invert(std::vector<double>& A, int const& n) {
+void matrixOp::invert(std::vector<double>& A, const int& n) {
     if (n < 1) {
         return;
     }

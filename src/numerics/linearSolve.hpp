@@ -36,6 +36,6 @@ void solveAxb(mMatrix& A, mMatrix* x, mMatrix* b);
 /// more.
 ///
 /// A singular matrix, or a vector that is too short, ends the process with a message and status 1.
-void invert(std::vector<double>& A, int const& n);
+void invert(std::vector<double>& A, const int& n);
 
 } // namespace matrixOp

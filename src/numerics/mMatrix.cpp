@@ -37,7 +37,7 @@ const double& mMatrix::operator()(int i, int j) const {
     return *v(i, j);
 }
 
-void mMatrix::subtractScaledRow(int i, int j, double const& factor, int from) {
+void mMatrix::subtractScaledRow(int i, int j, const double& factor, int from) {
     matrixOp::axpy(cols - from, -factor, v(j, from), v(i, from));
 }
 
@@ -85,9 +85,8 @@ void mMatrix::transpose() {
 void mMatrix::checkSize(std::vector<double>& storage, int offset) {
     const std::int64_t found = static_cast<std::int64_t>(storage.size()) - offset;
     if (found < static_cast<std::int64_t>(rows) * cols) {
-        sorvik::endWithError(
-            "Wrong size of double vector X.\n cannot assign matrix of size : " +
-            std::to_string(rows) + " x " + std::to_string(cols) + " to vector of size " +
-            std::to_string(found));
+        sorvik::endWithError("Wrong size of double vector X.\n cannot assign matrix of size : " +
+                             std::to_string(rows) + " x " + std::to_string(cols) +
+                             " to vector of size " + std::to_string(found));
     }
 }

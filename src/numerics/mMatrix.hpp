@@ -37,7 +37,7 @@ public:
     virtual const double& operator()(int i, int j) const;
 
     /// Row i -= factor * row j, from column `from` on.
-    void subtractScaledRow(int i, int j, double const& factor, int from);
+    void subtractScaledRow(int i, int j, const double& factor, int from);
 
     /// The pivot of column i: the entry of largest magnitude in rows i and below, the first of
     /// equal ones; `i` becomes its row. Where all of them are 0 or NaN, or there are none, `i`

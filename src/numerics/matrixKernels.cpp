@@ -79,7 +79,7 @@ void tileRows(const product& p, index i, index k) {
 
 } // namespace
 
-void matrixOp::MM(int const& m, int const& n, int const& k, const double* A, const double* B,
+void matrixOp::MM(const int& m, const int& n, const int& k, const double* A, const double* B,
                   double* C) {
     MMjump(m, n, k, n, n, k, A, B, C);
 }
@@ -100,7 +100,7 @@ void matrixOp::MV(int m, int n, const double* A, const double* x, double* y) {
     forRowSums(m, n, A, x, [=](index i, double sum) { y[i] = sum; });
 }
 
-void matrixOp::MV(int m, int n, double const& a, const double* A, const double* x, double* y) {
+void matrixOp::MV(int m, int n, const double& a, const double* A, const double* x, double* y) {
     forRowSums(m, n, A, x, [=, factor = a](index i, double sum) { y[i] = factor * sum; });
 }
 
@@ -108,7 +108,7 @@ void matrixOp::MVadd(int m, int n, const double* A, const double* x, double* y) 
     forRowSums(m, n, A, x, [=](index i, double sum) { y[i] += sum; });
 }
 
-void matrixOp::MVadd(int m, int n, double const& a, const double* A, const double* x, double* y) {
+void matrixOp::MVadd(int m, int n, const double& a, const double* A, const double* x, double* y) {
     forRowSums(m, n, A, x, [=, factor = a](index i, double sum) { y[i] += factor * sum; });
 }
 
@@ -129,13 +129,13 @@ void matrixOp::blockMV(int m, int n, int points, const double* A, const double* 
     }
 }
 
-void matrixOp::OP(int const& m, int const& n, const double* a, const double* b, double* M) {
+void matrixOp::OP(const int& m, const int& n, const double* a, const double* b, double* M) {
     for (index i = 0; i < m; ++i) {
         axy(n, a[i], b, M + i * n);
     }
 }
 
-void matrixOp::transposeTo(const double* A, double* B, int const& m, int const& n) {
+void matrixOp::transposeTo(const double* A, double* B, const int& m, const int& n) {
     for (index i = 0; i < m; ++i) {
         for (index j = 0; j < n; ++j) {
             B[j * m + i] = A[i * n + j];

@@ -5,7 +5,7 @@ namespace matrixOp {
 
 /// C (m x k) = A (m x n) times the transpose of B (k x n). C is first multiplied by 0, so that a
 /// NaN or an infinity in it stays; for n below 1 no more than that is done.
-void MM(int const& m, int const& n, int const& k, const double* A, const double* B, double* C);
+void MM(const int& m, const int& n, const int& k, const double* A, const double* B, double* C);
 
 /// MM for parts of larger matrices: the rows of A begin `jumpA` entries apart, those of B and C
 /// `jumpB` and `jumpC`.
@@ -14,11 +14,11 @@ void MMjump(int m, int n, int k, int jumpA, int jumpB, int jumpC, const double* 
 
 /// y (m) = A (m x n) times x (n), and a times that product.
 void MV(int m, int n, const double* A, const double* x, double* y);
-void MV(int m, int n, double const& a, const double* A, const double* x, double* y);
+void MV(int m, int n, const double& a, const double* A, const double* x, double* y);
 
 /// The same, added to y. Each product is summed before it is added.
 void MVadd(int m, int n, const double* A, const double* x, double* y);
-void MVadd(int m, int n, double const& a, const double* A, const double* x, double* y);
+void MVadd(int m, int n, const double& a, const double* A, const double* x, double* y);
 
 /// y (n) = transpose of A (m x n) times x (m).
 void MTV(int m, int n, const double* A, const double* x, double* y);
@@ -28,9 +28,9 @@ void MTV(int m, int n, const double* A, const double* x, double* y);
 void blockMV(int m, int n, int points, const double* A, const double* x, double* y);
 
 /// M (m x n): M[i*n + j] = a[i] * b[j].
-void OP(int const& m, int const& n, const double* a, const double* b, double* M);
+void OP(const int& m, const int& n, const double* a, const double* b, double* M);
 
 /// B (n x m) = transpose of A (m x n).
-void transposeTo(const double* A, double* B, int const& m, int const& n);
+void transposeTo(const double* A, double* B, const int& m, const int& n);
 
 } // namespace matrixOp

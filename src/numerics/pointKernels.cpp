@@ -5,7 +5,7 @@
 #include <cmath>
 #include <cstddef>
 
-void (*matrixOp::l2Norm)(int const&, const double*, double*) = matrixOp::l2Norm3D;
+void (*matrixOp::l2Norm)(const int&, const double*, double*) = matrixOp::l2Norm3D;
 
 namespace {
 
@@ -62,15 +62,15 @@ void project(int dim, std::vector<T>& v) {
 
 } // namespace
 
-void matrixOp::l2Norm1D(int const& n, const double* X, double* out) {
+void matrixOp::l2Norm1D(const int& n, const double* X, double* out) {
     norms<1>(n, X, out);
 }
 
-void matrixOp::l2Norm2D(int const& n, const double* X, double* out) {
+void matrixOp::l2Norm2D(const int& n, const double* X, double* out) {
     norms<2>(n, X, out);
 }
 
-void matrixOp::l2Norm3D(int const& n, const double* X, double* out) {
+void matrixOp::l2Norm3D(const int& n, const double* X, double* out) {
     norms<3>(n, X, out);
 }
 
@@ -97,32 +97,32 @@ void matrixOp::crossMat(const double* a, double* M) {
     M[7] = x;
 }
 
-void matrixOp::crossProduct(const double* a, const double* b, double* c, int const& stride) {
+void matrixOp::crossProduct(const double* a, const double* b, double* c, const int& stride) {
     crossInto(stride, a, b, c, write);
 }
 
-void matrixOp::crossProductAdd(const double* a, const double* b, double* c, int const& stride) {
+void matrixOp::crossProductAdd(const double* a, const double* b, double* c, const int& stride) {
     crossInto(stride, a, b, c, add);
 }
 
 void matrixOp::crossProductAll(int n, const double* a, const double* b, double* c,
-                               int const& stride) {
+                               const int& stride) {
     crossAllInto(n, stride, a, b, c, write);
 }
 
 void matrixOp::crossProductAllAdd(int n, const double* a, const double* b, double* c,
-                                  int const& stride) {
+                                  const int& stride) {
     crossAllInto(n, stride, a, b, c, add);
 }
 
-void matrixOp::projectToDim(int const& dim, std::vector<double>& v) {
+void matrixOp::projectToDim(const int& dim, std::vector<double>& v) {
     project(dim, v);
 }
 
-void matrixOp::projectToDim(int const& dim, std::vector<int>& v) {
+void matrixOp::projectToDim(const int& dim, std::vector<int>& v) {
     project(dim, v);
 }
 
-void matrixOp::projectToDim(int const& dim, std::vector<std::string>& v) {
+void matrixOp::projectToDim(const int& dim, std::vector<std::string>& v) {
     project(dim, v);
 }

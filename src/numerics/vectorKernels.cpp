@@ -50,36 +50,36 @@ void forBlocks(int m, int n, const double* x, double* z, Kernel kernel) {
 
 } // namespace
 
-void matrixOp::scale(int n, double const& a, double* x) {
+void matrixOp::scale(int n, const double& a, double* x) {
     axy(n, a, x, x);
 }
 
-void matrixOp::axpy(int n, double const& a, const double* x, double* y) {
+void matrixOp::axpy(int n, const double& a, const double* x, double* y) {
     axpyz(n, a, x, y, y);
 }
 
-void matrixOp::axy(int n, double const& a, const double* x, double* y) {
+void matrixOp::axy(int n, const double& a, const double* x, double* y) {
     const double factor = a;
     for (int i = 0; i < n; ++i) {
         y[i] = factor * x[i];
     }
 }
 
-void matrixOp::apxy(int n, double const& a, const double* x, double* y) {
+void matrixOp::apxy(int n, const double& a, const double* x, double* y) {
     const double constant = a;
     for (int i = 0; i < n; ++i) {
         y[i] = constant + x[i];
     }
 }
 
-void matrixOp::axpyz(int n, double const& a, const double* x, const double* y, double* z) {
+void matrixOp::axpyz(int n, const double& a, const double* x, const double* y, double* z) {
     const double factor = a;
     for (int i = 0; i < n; ++i) {
         z[i] = factor * x[i] + y[i];
     }
 }
 
-void matrixOp::addConstant(int n, double const& a, double* x) {
+void matrixOp::addConstant(int n, const double& a, double* x) {
     apxy(n, a, x, x);
 }
 
@@ -178,7 +178,7 @@ bool matrixOp::isnan(int n, const double* x) {
     return std::any_of(x, x + std::max(n, 0), [](double entry) { return std::isnan(entry); });
 }
 
-bool matrixOp::minmod(double const& a, double const& b, double& r, double const& c) {
+bool matrixOp::minmod(const double& a, const double& b, double& r, const double& c) {
     const double central = a / 2 + b / 2;
     const double outer = c * std::fmin(std::fabs(a), std::fabs(b));
     const bool opposed = (a <= 0 && b >= 0) || (a >= 0 && b <= 0);

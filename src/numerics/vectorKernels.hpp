@@ -6,22 +6,22 @@
 namespace matrixOp {
 
 /// x[i] = a * x[i].
-void scale(int n, double const& a, double* x);
+void scale(int n, const double& a, double* x);
 
 /// y[i] += a * x[i].
-void axpy(int n, double const& a, const double* x, double* y);
+void axpy(int n, const double& a, const double* x, double* y);
 
 /// y[i] = a * x[i].
-void axy(int n, double const& a, const double* x, double* y);
+void axy(int n, const double& a, const double* x, double* y);
 
 /// y[i] = a + x[i].
-void apxy(int n, double const& a, const double* x, double* y);
+void apxy(int n, const double& a, const double* x, double* y);
 
 /// z[i] = a * x[i] + y[i].
-void axpyz(int n, double const& a, const double* x, const double* y, double* z);
+void axpyz(int n, const double& a, const double* x, const double* y, double* z);
 
 /// x[i] += a.
-void addConstant(int n, double const& a, double* x);
+void addConstant(int n, const double& a, double* x);
 
 /// Makes `x` a vector of n zeros.
 void zeros(int n, std::vector<double>& x);
@@ -71,6 +71,6 @@ constexpr double flatSlope = 1e-17;
 ///
 /// c = 1 gives the plain minmod, c = 2 the monotonised central limiter. Returns whether |r| exceeds
 /// `flatSlope`, false also for NaN.
-bool minmod(double const& a, double const& b, double& r, double const& c);
+bool minmod(const double& a, const double& b, double& r, const double& c);
 
 } // namespace matrixOp

@@ -12,12 +12,12 @@
 
 Jonswap::Jonswap(const reader& config) : waveModel(config) {
     const inputMap& inputs = config.inputs;
-    Hs = inputs.read<double>(prefix + "Hs", Hs);
-    gamma = inputs.read<double>(prefix + "gamma", gamma);
-    sigma1 = inputs.read<double>(prefix + "sigma1", sigma1);
-    sigma2 = inputs.read<double>(prefix + "sigma2", sigma2);
-    alpha = inputs.read<double>(prefix + "alpha", alpha);
-    seed = inputs.read<int>(prefix + "seed", seed);
+    hs_ = inputs.read<double>(prefix + "Hs", hs_);
+    gamma_ = inputs.read<double>(prefix + "gamma", gamma_);
+    sigma1_ = inputs.read<double>(prefix + "sigma1", sigma1_);
+    sigma2_ = inputs.read<double>(prefix + "sigma2", sigma2_);
+    alpha_ = inputs.read<double>(prefix + "alpha", alpha_);
+    seed_ = inputs.read<int>(prefix + "seed", seed_);
     const bool useRadians = inputs.read<int>(prefix + "useRadians", 0) != 0;
     const double frequencyFactor = useRadians ? 1.0 : 2 * sorvik::pi;
     const double angleFactor = useRadians ? 1.0 : sorvik::radiansPerDegree;
@@ -26,7 +26,7 @@ Jonswap::Jonswap(const reader& config) : waveModel(config) {
     if (!(fp > 0.0)) {
         sorvik::refuseInput(config, prefix + "fp", fp, "a peak frequency above zero");
     }
-    omegaP = fp * frequencyFactor;
+    omegaP_ = fp * frequencyFactor;
     const frequencyGrid grid = readGrid(config, frequencyFactor);
     const auto direction = inputs.read<double>(prefix + "direction", 0.0);
     fillSpectrum(grid);
@@ -42,7 +42,7 @@ Jonswap::frequencyGrid Jonswap::readGrid(const reader& config, double frequencyF
     }
     // The component, its density, frequency, amplitude and phase.
     if (!sorvik::memory::canHold(static_cast<std::size_t>(n),
-                         sizeof(waveComponent2D) + 4 * sizeof(double))) {
+                                 sizeof(waveComponent2D) + 4 * sizeof(double))) {
         sorvik::refuseInput(config, prefix + "components", n, "a number that fits into memory");
     }
     const auto f0 = inputs.read<double>(prefix + "f0", 0.01);
@@ -59,51 +59,51 @@ Jonswap::frequencyGrid Jonswap::readGrid(const reader& config, double frequencyF
 
 double Jonswap::setS(const double& omega) const {
     const double g = globals::m_g.back();
-    const double sigma = omegaP >= omega ? sigma1 : sigma2;
-    const double offPeak = omega / omegaP - 1;
+    const double sigma = omegaP_ >= omega ? sigma1_ : sigma2_;
+    const double offPeak = omega / omegaP_ - 1;
     const double r = std::exp(-(offPeak * offPeak) / (2 * sigma * sigma));
-    return 2 * sorvik::pi * alpha * (g * g) * std::pow(omega, -5.0) *
-           std::exp(-1.25 * std::pow(omegaP / omega, 4.0)) * std::pow(gamma, r);
+    return 2 * sorvik::pi * alpha_ * (g * g) * std::pow(omega, -5.0) *
+           std::exp(-1.25 * std::pow(omegaP_ / omega, 4.0)) * std::pow(gamma_, r);
 }
 
 void Jonswap::fillSpectrum(const frequencyGrid& grid) {
-    spectrum.reserve(static_cast<std::size_t>(grid.count));
+    spectrum_.reserve(static_cast<std::size_t>(grid.count));
     for (int i = 0; i < grid.count; ++i) {
-        spectrum.push_back(setS(grid[i]));
+        spectrum_.push_back(setS(grid[i]));
     }
-    const double m0 = matrixOp::trapz(grid.count, grid.step, spectrum.data());
-    const bool isHeightGiven = Hs > 0.0;
+    const double m0 = matrixOp::trapz(grid.count, grid.step, spectrum_.data());
+    const bool isHeightGiven = hs_ > 0.0;
     if (!(m0 >= 0.0) || !std::isfinite(m0) || (isHeightGiven && m0 == 0.0)) {
         sorvik::refuseInput("The variance of the JONSWAP spectrum", m0,
-                    "a finite one above zero [m2]: check " + prefix +
-                        "fp, f0, f1, gamma, sigma1, sigma2 and alpha");
+                            "a finite one above zero [m2]: check " + prefix +
+                                "fp, f0, f1, gamma, sigma1, sigma2 and alpha");
     }
     const double H = 4 * std::sqrt(m0);
     if (!isHeightGiven) {
-        Hs = H;
+        hs_ = H;
         return;
     }
-    const double q = (Hs / H) * (Hs / H);
-    matrixOp::scale(grid.count, q, spectrum.data());
-    alpha *= q;
+    const double q = (hs_ / H) * (hs_ / H);
+    matrixOp::scale(grid.count, q, spectrum_.data());
+    alpha_ *= q;
 }
 
 void Jonswap::fillTrain(const frequencyGrid& grid, waveTrain& train) {
     std::vector<double> amplitudes;
     std::vector<double> frequencies;
-    amplitudes.reserve(spectrum.size());
-    frequencies.reserve(spectrum.size());
+    amplitudes.reserve(spectrum_.size());
+    frequencies.reserve(spectrum_.size());
     for (int i = 0; i < grid.count; ++i) {
         // The density alone gives the amplitude, whatever the step of the grid.
-        amplitudes.push_back(std::sqrt(2 * spectrum[static_cast<std::size_t>(i)]));
+        amplitudes.push_back(std::sqrt(2 * spectrum_[static_cast<std::size_t>(i)]));
         frequencies.push_back(grid[i]);
     }
-    std::vector<double> phases(spectrum.size());
-    seed = uniformPhaseDistribution(seed, grid.count, phases.data());
+    std::vector<double> phases(spectrum_.size());
+    seed_ = uniformPhaseDistribution(seed_, grid.count, phases.data());
     std::cout << "Using " << grid.count
               << " uniformly disributed random phases generated by Standard "
                  "mersenne_twister_engine\n\tReproduce with seed no: "
-              << seed << std::endl;
+              << seed_ << std::endl;
     train.setFrom_w(grid.count, amplitudes.data(), frequencies.data(), phases.data());
 }
 

@@ -24,11 +24,11 @@ public:
     virtual void print(std::ostream& out) const;
 
     /// The significant wave height [m]: as given, or that of the spectrum.
-    double significantWaveHeight() const { return Hs; }
+    double significantWaveHeight() const { return hs_; }
     /// The seed that reproduces the phases.
-    int usedSeed() const { return seed; }
+    int usedSeed() const { return seed_; }
     /// The spectral density [m² s] at each frequency, after scaling.
-    const std::vector<double>& spectralDensity() const { return spectrum; }
+    const std::vector<double>& spectralDensity() const { return spectrum_; }
 
 private:
     struct frequencyGrid {
@@ -42,12 +42,12 @@ private:
     void fillSpectrum(const frequencyGrid& grid);
     void fillTrain(const frequencyGrid& grid, waveTrain& train);
 
-    double Hs = -1.0;
-    double omegaP = 0.0;
-    double gamma = 1.0;
-    double sigma1 = 0.07; ///< spectral width up to the peak
-    double sigma2 = 0.09; ///< spectral width above the peak
-    double alpha = 0.0081;
-    int seed = -1;
-    std::vector<double> spectrum;
+    double hs_ = -1.0;
+    double omegaP_ = 0.0;
+    double gamma_ = 1.0;
+    double sigma1_ = 0.07; ///< spectral width up to the peak
+    double sigma2_ = 0.09; ///< spectral width above the peak
+    double alpha_ = 0.0081;
+    int seed_ = -1;
+    std::vector<double> spectrum_;
 };

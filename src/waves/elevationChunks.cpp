@@ -102,52 +102,52 @@ bool suitsElevationChunks(const std::vector<planeWave>& waves, const std::vector
 elevationChunks::elevationChunks(const std::vector<planeWave>& components,
                                  const std::vector<double>& x, const std::vector<double>& y,
                                  const timeInstants& timeAxis, std::size_t largestTable)
-    : waves(components), instants(timeAxis), probes(waves, x, y, largestTable),
-      times(waves.size(), panelsPerChunk(waves.size(), probes, instants)),
-      rows(times.panels * rowsPerPanel(instants)), stride(probes.panelCount() * width),
-      turned(2 * waves.size() * width), cosineTiles(times.panels * tileSize),
-      sineTiles(times.panels * tileSize), values(rows * stride) {
-    if (instants.isEven()) {
-        times.setHalfSteps(waves, instants.step());
+    : waves_(components), instants_(timeAxis), probes_(waves_, x, y, largestTable),
+      times_(waves_.size(), panelsPerChunk(waves_.size(), probes_, instants_)),
+      rows_(times_.panels * rowsPerPanel(instants_)), stride_(probes_.panelCount() * width),
+      turned_(2 * waves_.size() * width), cosineTiles_(times_.panels * tileSize),
+      sineTiles_(times_.panels * tileSize), values_(rows_ * stride_) {
+    if (instants_.isEven()) {
+        times_.setHalfSteps(waves_, instants_.step());
     }
 }
 
 void elevationChunks::compute(std::int64_t first) {
     double middle = 0;
-    if (instants.isEven()) {
-        const double index = static_cast<double>(first) + static_cast<double>(rows - 1) / 2;
-        middle = index * instants.step() + instants.start();
+    if (instants_.isEven()) {
+        const double index = static_cast<double>(first) + static_cast<double>(rows_ - 1) / 2;
+        middle = index * instants_.step() + instants_.start();
     } else {
-        times.setInstants(waves, instants, first, std::min(length(), instants.count() - first));
+        times_.setInstants(waves_, instants_, first, std::min(length(), instants_.count() - first));
     }
-    const phasorTurn turn(waves, middle);
-    const std::size_t half = waves.size() * width;
-    for (std::size_t p = 0; p < probes.panelCount(); ++p) {
-        const double* panel = probes.panel(p);
-        if (instants.isEven()) {
-            turn.apply(panel, turned.data());
-            panel = turned.data();
+    const phasorTurn turn(waves_, middle);
+    const std::size_t half = waves_.size() * width;
+    for (std::size_t p = 0; p < probes_.panelCount(); ++p) {
+        const double* panel = probes_.panel(p);
+        if (instants_.isEven()) {
+            turn.apply(panel, turned_.data());
+            panel = turned_.data();
         }
-        elevationKernel::multiply(waves.size(), times.panels, times.cosines.data(), panel,
-                                  cosineTiles.data());
-        elevationKernel::multiply(waves.size(), times.panels, times.sines.data(), panel + half,
-                                  sineTiles.data());
+        elevationKernel::multiply(waves_.size(), times_.panels, times_.cosines.data(), panel,
+                                  cosineTiles_.data());
+        elevationKernel::multiply(waves_.size(), times_.panels, times_.sines.data(), panel + half,
+                                  sineTiles_.data());
         place(p);
     }
 }
 
 void elevationChunks::place(std::size_t probePanel) {
-    const std::size_t count = times.panels * width;
-    const std::size_t middle = instants.isEven() ? count : 0;
+    const std::size_t count = times_.panels * width;
+    const std::size_t middle = instants_.isEven() ? count : 0;
     for (std::size_t i = 0; i < count; ++i) {
-        const double* even = cosineTiles.data() + i * width;
-        const double* odd = sineTiles.data() + i * width;
-        double* after = values.data() + (middle + i) * stride + probePanel * width;
+        const double* even = cosineTiles_.data() + i * width;
+        const double* odd = sineTiles_.data() + i * width;
+        double* after = values_.data() + (middle + i) * stride_ + probePanel * width;
         for (std::size_t j = 0; j < width; ++j) {
             after[j] = even[j] + odd[j];
         }
-        if (instants.isEven()) {
-            double* before = values.data() + (middle - 1 - i) * stride + probePanel * width;
+        if (instants_.isEven()) {
+            double* before = values_.data() + (middle - 1 - i) * stride_ + probePanel * width;
             for (std::size_t j = 0; j < width; ++j) {
                 before[j] = even[j] - odd[j];
             }

@@ -50,27 +50,27 @@ public:
                     std::size_t largestTable = usualTable);
 
     /// The number of instants in a chunk.
-    std::int64_t length() const { return static_cast<std::int64_t>(rows); }
+    std::int64_t length() const { return static_cast<std::int64_t>(rows_); }
     /// Computes the chunk that begins with the instant `first`.
     void compute(std::int64_t first);
     /// The elevations at all probes at instant `index` of the chunk, which has that instant.
     const double* row(std::int64_t index) const {
-        return values.data() + static_cast<std::size_t>(index) * stride;
+        return values_.data() + static_cast<std::size_t>(index) * stride_;
     }
 
 private:
     void place(std::size_t probePanel);
 
-    const std::vector<planeWave>& waves;
-    const timeInstants& instants;
-    probePhasors probes;
-    timePhasors times;
-    std::size_t rows;
-    std::size_t stride;
-    std::vector<double> turned;
-    std::vector<double> cosineTiles;
-    std::vector<double> sineTiles;
-    std::vector<double> values;
+    const std::vector<planeWave>& waves_;
+    const timeInstants& instants_;
+    probePhasors probes_;
+    timePhasors times_;
+    std::size_t rows_;
+    std::size_t stride_;
+    std::vector<double> turned_;
+    std::vector<double> cosineTiles_;
+    std::vector<double> sineTiles_;
+    std::vector<double> values_;
 };
 
 } // namespace sorvik

@@ -35,8 +35,8 @@ bool isUsable(double value) {
 
 regularWave::regularWave(const reader& config) : waveModel(config) {
     const inputMap& inputs = config.inputs;
-    amplitude = inputs.read<double>(prefix + "amplitude", 0.0);
-    if (amplitude == 0.0) {
+    amplitude_ = inputs.read<double>(prefix + "amplitude", 0.0);
+    if (amplitude_ == 0.0) {
         std::cout << "WARNING: the specified amplitude is zero. I assume this is intentional and "
                      "will proceed"
                   << std::endl;
@@ -63,9 +63,9 @@ void regularWave::fillTrain(const reader& config, waveTrain& train, double phase
             sorvik::refuseInput(config, key, value, "a finite number other than zero");
         }
         if (given.isFrequency) {
-            train.setFrom_w(1, &amplitude, &quantity, &phase);
+            train.setFrom_w(1, &amplitude_, &quantity, &phase);
         } else {
-            train.setFrom_k(1, &amplitude, &quantity, &phase);
+            train.setFrom_k(1, &amplitude_, &quantity, &phase);
         }
         return;
     }

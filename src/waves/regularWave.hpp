@@ -20,5 +20,5 @@ public:
 private:
     void fillTrain(const reader& config, waveTrain& train, double phase) const;
 
-    double amplitude = 0.0; ///< m
+    double amplitude_ = 0.0; ///< m
 };

@@ -13,27 +13,31 @@ class timeInstants {
 public:
     /// `count` instants i * step + start; none for a count below 1.
     timeInstants(double start, double step, std::int64_t count)
-        : first(start), spacing(step), evenCount(count > 0 ? count : 0) {}
+        : first_(start), spacing_(step), evenCount_(count > 0 ? count : 0) {}
     /// The instants of a list.
-    explicit timeInstants(std::vector<double> instants) : even(false), list(std::move(instants)) {}
+    explicit timeInstants(std::vector<double> instants)
+        : even_(false), list_(std::move(instants)) {}
 
-    std::int64_t count() const { return even ? evenCount : static_cast<std::int64_t>(list.size()); }
+    std::int64_t count() const {
+        return even_ ? evenCount_ : static_cast<std::int64_t>(list_.size());
+    }
     /// The instant `i`, from 0 to `count` - 1.
     double operator[](std::int64_t i) const {
-        return even ? static_cast<double>(i) * spacing + first : list[static_cast<std::size_t>(i)];
+        return even_ ? static_cast<double>(i) * spacing_ + first_
+                     : list_[static_cast<std::size_t>(i)];
     }
 
-    bool isEven() const { return even; }
+    bool isEven() const { return even_; }
     /// First instant and distance of evenly spaced instants; 0 for listed ones.
-    double start() const { return first; }
-    double step() const { return spacing; }
+    double start() const { return first_; }
+    double step() const { return spacing_; }
 
 private:
-    bool even = true;
-    double first = 0.0;
-    double spacing = 0.0;
-    std::int64_t evenCount = 0;
-    std::vector<double> list;
+    bool even_ = true;
+    double first_ = 0.0;
+    double spacing_ = 0.0;
+    std::int64_t evenCount_ = 0;
+    std::vector<double> list_;
 };
 
 /// The instants of the run: the first column of the file "time.dat" in the output folder where

@@ -15,55 +15,57 @@ constexpr double deepKh = 4.71238898038469;
 } // namespace
 
 waveComponent2D::waveComponent2D(const double& gravity, const double& depth)
-    : g(gravity), h(depth) {}
+    : g_(gravity), h_(depth) {}
 
 waveComponent2D::waveComponent2D(const double& gravity, const double& depth, double amplitude,
                                  double waveNumber, double omega, double phase)
-    : g(gravity), h(depth) {
+    : g_(gravity), h_(depth) {
     set(amplitude, waveNumber, omega, phase);
 }
 
 void waveComponent2D::set(const double& amplitude, const double& waveNumber, const double& omega,
                           const double& phase) {
-    a = amplitude;
-    k = waveNumber;
-    w = omega;
-    phi = phase;
-    agk = a * g * k;
-    clippedKh = std::min(k * h, deepKh);
-    coshKh = std::cosh(clippedKh);
-    deep = k * h > deepKh;
+    a_ = amplitude;
+    k_ = waveNumber;
+    w_ = omega;
+    phi_ = phase;
+    agk_ = a_ * g_ * k_;
+    clippedKh_ = std::min(k_ * h_, deepKh);
+    coshKh_ = std::cosh(clippedKh_);
+    deep_ = k_ * h_ > deepKh;
 }
 
 double waveComponent2D::eta(double s) const {
-    return a * std::cos(surfaceAngle(s));
+    return a_ * std::cos(surfaceAngle(s));
 }
 
 double waveComponent2D::pressureFactor(double z) const {
-    return deep ? std::exp(k * z) : std::cosh(k * z + clippedKh) / coshKh;
+    return deep_ ? std::exp(k_ * z) : std::cosh(k_ * z + clippedKh_) / coshKh_;
 }
 
 double waveComponent2D::pressureHead(double s, double z) const {
-    return a * pressureFactor(z) * std::cos(surfaceAngle(s));
+    return a_ * pressureFactor(z) * std::cos(surfaceAngle(s));
 }
 
 void waveComponent2D::kinematics(const double& s, const double& z, double& u, double& vertical,
                                  double& ax, double& az) const {
     const double horizontalFactor = pressureFactor(z);
-    const double verticalFactor = deep ? horizontalFactor : std::sinh(k * z + clippedKh) / coshKh;
+    const double verticalFactor =
+        deep_ ? horizontalFactor : std::sinh(k_ * z + clippedKh_) / coshKh_;
     const double theta = surfaceAngle(s);
     const double cosTheta = std::cos(theta);
     const double sinTheta = std::sin(theta);
-    const double speed = agk / w;
+    const double speed = agk_ / w_;
     u += speed * horizontalFactor * cosTheta;
     vertical += speed * verticalFactor * sinTheta;
-    ax += agk * horizontalFactor * sinTheta;
-    az -= agk * verticalFactor * cosTheta;
+    ax += agk_ * horizontalFactor * sinTheta;
+    az -= agk_ * verticalFactor * cosTheta;
 }
 
 void waveComponent2D::printInfo(std::ostream& out) const {
-    out << "Wave height (m): " << 2 * a << ", Period (s): " << 2 * sorvik::pi / w
-        << ", Wave length (m): " << 2 * sorvik::pi / k << ", Phase (deg): " << phi * 180 / sorvik::pi << std::endl;
+    out << "Wave height (m): " << 2 * a_ << ", Period (s): " << 2 * sorvik::pi / w_
+        << ", Wave length (m): " << 2 * sorvik::pi / k_
+        << ", Phase (deg): " << phi_ * 180 / sorvik::pi << std::endl;
 }
 
 std::istream& operator>>(std::istream& in, waveComponent2D& component) {

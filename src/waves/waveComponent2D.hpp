@@ -18,14 +18,14 @@ public:
     /// Replaces the four parameters; the instant stays.
     void set(const double& a, const double& k, const double& omega, const double& phase);
     /// Freezes the wave at the instant `t` [s].
-    void setTime(double t) { timePhase = w * t - phi; }
+    void setTime(double t) { timePhase_ = w_ * t - phi_; }
 
-    double amplitude() const { return a; }
-    double waveNumber() const { return k; }
-    double angularFrequency() const { return w; }
-    double phase() const { return phi; }
+    double amplitude() const { return a_; }
+    double waveNumber() const { return k_; }
+    double angularFrequency() const { return w_; }
+    double phase() const { return phi_; }
     /// Whether k h is above 3 pi / 2, from where on the sea bed is not felt.
-    bool isDeep() const { return deep; }
+    bool isDeep() const { return deep_; }
 
     /// The surface elevation [m] at `s` [m].
     double eta(double s) const;
@@ -46,19 +46,19 @@ public:
     friend std::istream& operator>>(std::istream& in, waveComponent2D& component);
 
 private:
-    double surfaceAngle(double s) const { return k * s - timePhase; }
+    double surfaceAngle(double s) const { return k_ * s - timePhase_; }
 
-    double g;
-    double h;
-    double a = 0.0;
-    double k = 1.0;
-    double w = 1.0;
-    double phi = 0.0;
-    double agk = 0.0;                   ///< a g k [m/s² times rad]
-    double clippedKh = 6.28318;         ///< k h, at most 3 pi / 2; beyond it when neutral
-    double coshKh = 267.74534051728284; ///< cosh of `clippedKh`
-    double timePhase = 0.0;             ///< omega t - phase [rad], 0 until a time is set
-    bool deep = true;
+    double g_;
+    double h_;
+    double a_ = 0.0;
+    double k_ = 1.0;
+    double w_ = 1.0;
+    double phi_ = 0.0;
+    double agk_ = 0.0;                   ///< a g k [m/s² times rad]
+    double clippedKh_ = 6.28318;         ///< k h, at most 3 pi / 2; beyond it when neutral
+    double coshKh_ = 267.74534051728284; ///< cosh of `clippedKh`
+    double timePhase_ = 0.0;             ///< omega t - phase [rad], 0 until a time is set
+    bool deep_ = true;
 };
 
 /// Writes a, k, omega and phase, separated by tabs.

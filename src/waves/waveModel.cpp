@@ -20,52 +20,53 @@
 waveModel::waveModel(const reader& config) {
     const inputMap& inputs = config.inputs;
     const double ground = inputs.read<double>("environment.ground.level", -1000.0);
-    depth = inputs.read<double>(prefix + "depth", globals::m_stillWaterLevel - ground);
-    gravity = std::fabs(globals::m_g.back());
-    density = globals::m_rhoWater;
-    rampTime = inputs.read<double>(prefix + "rampTime", 0.0);
-    stretching = depth;
+    depth_ = inputs.read<double>(prefix + "depth", globals::m_stillWaterLevel - ground);
+    gravity_ = std::fabs(globals::m_g.back());
+    density_ = globals::m_rhoWater;
+    rampTime_ = inputs.read<double>(prefix + "rampTime", 0.0);
+    stretching_ = depth_;
 }
 
 waveTrain& waveModel::addTrain(double direction) {
-    if (!(depth > 0.0)) {
-        sorvik::refuseInput("The water depth", depth,
-                    "one above zero [m]: environment.wave.depth, or environment.waterLevel less "
-                    "environment.ground.level");
+    if (!(depth_ > 0.0)) {
+        sorvik::refuseInput(
+            "The water depth", depth_,
+            "one above zero [m]: environment.wave.depth, or environment.waterLevel less "
+            "environment.ground.level");
     }
-    if (gravity == 0.0) {
-        sorvik::refuseInput("environment.gravity", gravity, "a number other than zero");
+    if (gravity_ == 0.0) {
+        sorvik::refuseInput("environment.gravity", gravity_, "a number other than zero");
     }
-    return trainList.emplace_back(direction, density, gravity, depth);
+    return trainList_.emplace_back(direction, density_, gravity_, depth_);
 }
 
 void waveModel::finishTrains() {
     const auto deepest =
-        std::max_element(trainList.begin(), trainList.end(), [](auto& one, auto& other) {
+        std::max_element(trainList_.begin(), trainList_.end(), [](auto& one, auto& other) {
             return one.influenceDepth() < other.influenceDepth();
         });
-    if (deepest != trainList.end()) {
-        stretching = deepest->influenceDepth();
+    if (deepest != trainList_.end()) {
+        stretching_ = deepest->influenceDepth();
     }
-    hasWaves = true;
+    hasWaves_ = true;
 }
 
 void waveModel::setTime(const double& t) {
-    for (waveTrain& train : trainList) {
+    for (waveTrain& train : trainList_) {
         train.setTime(t);
     }
-    rampFactor = rampFactorAt(t);
+    rampFactor_ = rampFactorAt(t);
 }
 
 double waveModel::rampFactorAt(double t) const {
     constexpr double shortestRamp = 1e-12; // s
-    const double share = std::min(t / std::max(rampTime, shortestRamp), 1.0);
+    const double share = std::min(t / std::max(rampTime_, shortestRamp), 1.0);
     return (std::sin((share - 0.5) * sorvik::pi) + 1) * 0.5;
 }
 
 double waveModel::sumOfEta(double x, double y) const {
     double sum = 0.0;
-    for (const waveTrain& train : trainList) {
+    for (const waveTrain& train : trainList_) {
         sum += train.eta(x, y);
     }
     return sum;
@@ -75,10 +76,10 @@ void waveModel::eta(int n, const double* x, const double* y, double* elevation) 
     for (int i = 0; i < n; ++i) {
         double& value = elevation[i];
         value *= 0.0;
-        for (const waveTrain& train : trainList) {
+        for (const waveTrain& train : trainList_) {
             value += train.eta(x[i], y[i]);
         }
-        value *= rampFactor;
+        value *= rampFactor_;
     }
 }
 
@@ -125,7 +126,7 @@ void waveModel::evaluate(int n, const double* positions, double* velocity, doubl
     const std::ptrdiff_t block = n;
     const pointBlocks points(block, positions);
     const double level = globals::m_stillWaterLevel;
-    if (!hasWaves) {
+    if (!hasWaves_) {
         setStillWaterDensity(n, points.z, fluidDensity);
         for (int i = 0; i < n; ++i) {
             depthBelowSurface[i] = level - points.z[i];
@@ -133,22 +134,22 @@ void waveModel::evaluate(int n, const double* positions, double* velocity, doubl
         return;
     }
     for (int i = 0; i < n; ++i) {
-        const double surface = rampFactor * sumOfEta(points.x[i], points.y[i]);
+        const double surface = rampFactor_ * sumOfEta(points.x[i], points.y[i]);
         depthBelowSurface[i] = (level + surface) - points.z[i];
-        const double z = stretched(points.z[i] - level, surface, stretching);
+        const double z = stretched(points.z[i] - level, surface, stretching_);
         fluidDensity[i] = z > 0.0 ? globals::m_rhoAir : globals::m_rhoWater;
         if (z > 0.0) {
             continue;
         }
         double* v = velocity + i;
         double* a = acceleration + i;
-        for (const waveTrain& train : trainList) {
+        for (const waveTrain& train : trainList_) {
             train.kinematics(points.x[i], points.y[i], z, v[0], v[block], v[2 * block], a[0],
                              a[block], a[2 * block]);
         }
     }
-    matrixOp::scale(3 * n, rampFactor, velocity);
-    matrixOp::scale(3 * n, rampFactor, acceleration);
+    matrixOp::scale(3 * n, rampFactor_, velocity);
+    matrixOp::scale(3 * n, rampFactor_, acceleration);
 }
 
 void waveModel::evaluateRho(int n, const double* positions, double* velocity, double* acceleration,
@@ -167,16 +168,16 @@ void waveModel::pressure(int n, const double* positions, double* pressure) const
         const double x = points.x[i];
         const double y = points.y[i];
         const double z = points.z[i] - globals::m_stillWaterLevel;
-        const double zKinematic = stretched(z, rampFactor * sumOfEta(x, y), depth);
+        const double zKinematic = stretched(z, rampFactor_ * sumOfEta(x, y), depth_);
         if (zKinematic > 0.0) {
             pressure[i] = 0.0;
             continue;
         }
         double dynamic = 0.0;
-        for (const waveTrain& train : trainList) {
+        for (const waveTrain& train : trainList_) {
             dynamic += train.dynamicPressure(x, y, zKinematic);
         }
-        pressure[i] = -z * density * gravity + rampFactor * dynamic;
+        pressure[i] = -z * density_ * gravity_ + rampFactor_ * dynamic;
     }
 }
 
@@ -219,10 +220,10 @@ int waveModel::uniformPhaseDistribution(int seed, int n, double* phases) {
 
 void waveModel::printFirstTrain(std::ostream& out, const char* title) const {
     out << title << " \n\t";
-    if (trainList.empty()) {
+    if (trainList_.empty()) {
         return;
     }
-    const waveTrain& train = trainList.front();
+    const waveTrain& train = trainList_.front();
     out << "Direction (deg): " << train.directionDegrees()
         << "\n\tWave components :" << train.componentCount() << " \n\tFirst component: ";
     if (!train.components().empty()) {

@@ -52,12 +52,12 @@ public:
     /// outputs per phase). The seed -1 draws a fresh one. Returns the seed used.
     static int uniformPhaseDistribution(int seed, int n, double* phases);
 
-    const std::vector<waveTrain>& trains() const { return trainList; }
+    const std::vector<waveTrain>& trains() const { return trainList_; }
     /// The share of the waves that the start-up ramp lets through at the instant `t` [s]: 0 at
     /// t = 0, 1 from the ramp time on. Before t = 0 it oscillates.
     double rampFactorAt(double t) const;
     /// The depth over which `evaluate` stretches [m].
-    double stretchingDepth() const { return stretching; }
+    double stretchingDepth() const { return stretching_; }
 
 protected:
     /// Appends an empty train; the reference holds until the next one.
@@ -75,12 +75,12 @@ protected:
 private:
     double sumOfEta(double x, double y) const;
 
-    double depth = 1000.0;
-    double gravity = 9.81;
-    double density = 1000.0;
-    bool hasWaves = false;
-    std::vector<waveTrain> trainList;
-    double rampTime = 0.0;
-    double rampFactor = 1.0;
-    double stretching = 1000.0;
+    double depth_ = 1000.0;
+    double gravity_ = 9.81;
+    double density_ = 1000.0;
+    bool hasWaves_ = false;
+    std::vector<waveTrain> trainList_;
+    double rampTime_ = 0.0;
+    double rampFactor_ = 1.0;
+    double stretching_ = 1000.0;
 };

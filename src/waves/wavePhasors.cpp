@@ -25,30 +25,30 @@ std::vector<planeWave> planeWavesOf(const waveModel& model) {
 
 probePhasors::probePhasors(const std::vector<planeWave>& components, const std::vector<double>& xs,
                            const std::vector<double>& ys, std::size_t largestTable)
-    : waves(components), x(xs), y(ys), panels((x.size() + width - 1) / width),
-      panelSize(2 * waves.size() * width),
-      kept(panels <= largestTable / sizeof(double) / panelSize) {
-    table.resize(kept ? panels * panelSize : panelSize);
-    for (std::size_t p = 0; kept && p < panels; ++p) {
-        fill(p, table.data() + p * panelSize);
+    : waves_(components), x_(xs), y_(ys), panels_((x_.size() + width - 1) / width),
+      panelSize_(2 * waves_.size() * width),
+      kept_(panels_ <= largestTable / sizeof(double) / panelSize_) {
+    table_.resize(kept_ ? panels_ * panelSize_ : panelSize_);
+    for (std::size_t p = 0; kept_ && p < panels_; ++p) {
+        fill(p, table_.data() + p * panelSize_);
     }
 }
 
 const double* probePhasors::panel(std::size_t index) {
-    if (kept) {
-        return table.data() + index * panelSize;
+    if (kept_) {
+        return table_.data() + index * panelSize_;
     }
-    fill(index, table.data());
-    return table.data();
+    fill(index, table_.data());
+    return table_.data();
 }
 
 void probePhasors::fill(std::size_t index, double* panel) const {
     double* real = panel;
-    double* imaginary = panel + panelSize / 2;
-    for (const planeWave& wave : waves) {
+    double* imaginary = panel + panelSize_ / 2;
+    for (const planeWave& wave : waves_) {
         for (std::size_t j = 0; j < width; ++j) {
-            const std::size_t probe = std::min(index * width + j, x.size() - 1);
-            const double s = x[probe] * wave.directionCosine + y[probe] * wave.directionSine;
+            const std::size_t probe = std::min(index * width + j, x_.size() - 1);
+            const double s = x_[probe] * wave.directionCosine + y_[probe] * wave.directionSine;
             const double angle = wave.waveNumber * s;
             *real++ = wave.amplitude * std::cos(angle);
             *imaginary++ = wave.amplitude * std::sin(angle);
@@ -91,17 +91,17 @@ void timePhasors::setHalfSteps(const std::vector<planeWave>& waves, double step)
 phasorTurn::phasorTurn(const std::vector<planeWave>& waves, double t) {
     for (const planeWave& wave : waves) {
         const double angle = wave.omega * t - wave.phase;
-        cosines.push_back(std::cos(angle));
-        sines.push_back(std::sin(angle));
+        cosines_.push_back(std::cos(angle));
+        sines_.push_back(std::sin(angle));
     }
 }
 
 void phasorTurn::apply(const double* panel, double* turned) const {
-    const std::size_t half = cosines.size() * width;
-    for (std::size_t c = 0; c < cosines.size(); ++c) {
+    const std::size_t half = cosines_.size() * width;
+    for (std::size_t c = 0; c < cosines_.size(); ++c) {
         for (std::size_t j = c * width; j < (c + 1) * width; ++j) {
-            turned[j] = panel[j] * cosines[c] + panel[half + j] * sines[c];
-            turned[half + j] = panel[half + j] * cosines[c] - panel[j] * sines[c];
+            turned[j] = panel[j] * cosines_[c] + panel[half + j] * sines_[c];
+            turned[half + j] = panel[half + j] * cosines_[c] - panel[j] * sines_[c];
         }
     }
 }

@@ -34,21 +34,21 @@ public:
     probePhasors(const std::vector<planeWave>& waves, const std::vector<double>& x,
                  const std::vector<double>& y, std::size_t largestTable);
 
-    std::size_t panelCount() const { return panels; }
-    bool areKept() const { return kept; }
+    std::size_t panelCount() const { return panels_; }
+    bool areKept() const { return kept_; }
     /// Valid until the next call.
     const double* panel(std::size_t index);
 
 private:
     void fill(std::size_t index, double* panel) const;
 
-    const std::vector<planeWave>& waves;
-    const std::vector<double>& x;
-    const std::vector<double>& y;
-    std::size_t panels;
-    std::size_t panelSize;
-    bool kept;
-    std::vector<double> table;
+    const std::vector<planeWave>& waves_;
+    const std::vector<double>& x_;
+    const std::vector<double>& y_;
+    std::size_t panels_;
+    std::size_t panelSize_;
+    bool kept_;
+    std::vector<double> table_;
 };
 
 /// exp(i angle) of the components at the instants, in panels of `elevationKernel::width` instants:
@@ -81,8 +81,8 @@ public:
     void apply(const double* panel, double* turned) const;
 
 private:
-    std::vector<double> cosines;
-    std::vector<double> sines;
+    std::vector<double> cosines_;
+    std::vector<double> sines_;
 };
 
 } // namespace sorvik

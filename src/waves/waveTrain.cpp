@@ -8,8 +8,8 @@
 #include <iostream>
 
 waveTrain::waveTrain(double directionRadians, double density, double gravity, double depth)
-    : direction(180 * directionRadians / sorvik::pi), rho(density), g(gravity), h(depth), influence(depth),
-      cosine(std::cos(directionRadians)), sine(std::sin(directionRadians)) {}
+    : direction_(180 * directionRadians / sorvik::pi), rho_(density), g_(gravity), h_(depth),
+      influence_(depth), cosine_(std::cos(directionRadians)), sine_(std::sin(directionRadians)) {}
 
 double waveTrain::dispersionRelationFrom_w(const double& omega, const double& g, const double& h) {
     constexpr double tolerance = 1e-12;
@@ -38,34 +38,34 @@ double waveTrain::dispersionRelationFrom_w(const double& omega, const double& g,
 }
 
 void waveTrain::setFrom_k(int n, const double* a, const double* k, const double* phase) {
-    count = n;
+    count_ = n;
     for (int i = 0; i < n; ++i) {
-        const double omega = std::sqrt(std::tanh(k[i] * h) * g * k[i]);
-        list.emplace_back(g, h, a[i], k[i], omega, phase[i]);
+        const double omega = std::sqrt(std::tanh(k[i] * h_) * g_ * k[i]);
+        list_.emplace_back(g_, h_, a[i], k[i], omega, phase[i]);
     }
     updateInfluence();
 }
 
 void waveTrain::setFrom_w(int n, const double* a, const double* omega, const double* phase) {
-    count = n;
+    count_ = n;
     for (int i = 0; i < n; ++i) {
-        const double k = dispersionRelationFrom_w(omega[i], g, h);
-        list.emplace_back(g, h, a[i], k, omega[i], phase[i]);
+        const double k = dispersionRelationFrom_w(omega[i], g_, h_);
+        list_.emplace_back(g_, h_, a[i], k, omega[i], phase[i]);
     }
     updateInfluence();
 }
 
 void waveTrain::updateInfluence() {
-    const auto longest = std::min_element(list.begin(), list.end(), [](auto& one, auto& other) {
+    const auto longest = std::min_element(list_.begin(), list_.end(), [](auto& one, auto& other) {
         return one.waveNumber() < other.waveNumber();
     });
-    if (longest != list.end()) {
-        influence = std::min(2 * sorvik::pi / longest->waveNumber(), h);
+    if (longest != list_.end()) {
+        influence_ = std::min(2 * sorvik::pi / longest->waveNumber(), h_);
     }
 }
 
 void waveTrain::setTime(double t) {
-    for (waveComponent2D& component : list) {
+    for (waveComponent2D& component : list_) {
         component.setTime(t);
     }
 }
@@ -73,7 +73,7 @@ void waveTrain::setTime(double t) {
 double waveTrain::eta(const double& x, const double& y) const {
     const double s = along(x, y);
     double sum = 0.0;
-    for (const waveComponent2D& component : list) {
+    for (const waveComponent2D& component : list_) {
         sum += component.eta(s);
     }
     return sum;
@@ -84,45 +84,45 @@ void waveTrain::kinematics(const double& x, const double& y, const double& z, do
     const double s = along(x, y);
     double horizontalVelocity = 0.0;
     double horizontalAcceleration = 0.0;
-    for (const waveComponent2D& component : list) {
+    for (const waveComponent2D& component : list_) {
         component.kinematics(s, z, horizontalVelocity, w, horizontalAcceleration, az);
     }
-    u += horizontalVelocity * cosine;
-    v += horizontalVelocity * sine;
-    ax += horizontalAcceleration * cosine;
-    ay += horizontalAcceleration * sine;
+    u += horizontalVelocity * cosine_;
+    v += horizontalVelocity * sine_;
+    ax += horizontalAcceleration * cosine_;
+    ay += horizontalAcceleration * sine_;
 }
 
 double waveTrain::dynamicPressure(const double& x, const double& y, const double& z) const {
     const double s = along(x, y);
     double head = 0.0;
-    for (const waveComponent2D& component : list) {
+    for (const waveComponent2D& component : list_) {
         head += component.pressureHead(s, z);
     }
-    return rho * g * head;
+    return rho_ * g_ * head;
 }
 
 double waveTrain::totalPressure(const double& x, const double& y, const double& z,
                                 const double& zKinematic) const {
-    return dynamicPressure(x, y, zKinematic) - rho * g * z;
+    return dynamicPressure(x, y, zKinematic) - rho_ * g_ * z;
 }
 
 std::istream& operator>>(std::istream& in, waveTrain& train) {
-    train.direction = 0.0;
-    train.count = 0;
-    in >> train.direction >> train.count;
-    const double radians = train.direction * sorvik::radiansPerDegree;
-    train.cosine = std::cos(radians);
-    train.sine = std::sin(radians);
+    train.direction_ = 0.0;
+    train.count_ = 0;
+    in >> train.direction_ >> train.count_;
+    const double radians = train.direction_ * sorvik::radiansPerDegree;
+    train.cosine_ = std::cos(radians);
+    train.sine_ = std::sin(radians);
 
-    train.list.clear();
-    const auto listed = static_cast<std::size_t>(std::max(train.count, 0));
+    train.list_.clear();
+    const auto listed = static_cast<std::size_t>(std::max(train.count_, 0));
     if (!sorvik::memory::canHold(listed, sizeof(waveComponent2D))) {
         in.setstate(std::ios::failbit);
         return in;
     }
-    const waveComponent2D neutral(train.g, train.h);
-    train.list.assign(listed, neutral);
+    const waveComponent2D neutral(train.g_, train.h_);
+    train.list_.assign(listed, neutral);
     waveComponent2D passedOver = neutral;
     return in >> passedOver >> std::ws;
 }

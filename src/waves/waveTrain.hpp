@@ -30,14 +30,14 @@ public:
     /// Freezes all components at the instant `t` [s].
     void setTime(double t);
 
-    double directionDegrees() const { return direction; }
-    double directionCosine() const { return cosine; }
-    double directionSine() const { return sine; }
+    double directionDegrees() const { return direction_; }
+    double directionCosine() const { return cosine_; }
+    double directionSine() const { return sine_; }
     /// The number of components that was last given or read; `components` may hold more.
-    int componentCount() const { return count; }
-    const std::vector<waveComponent2D>& components() const { return list; }
+    int componentCount() const { return count_; }
+    const std::vector<waveComponent2D>& components() const { return list_; }
     /// The longest wave length or the depth, whichever is less [m].
-    double influenceDepth() const { return influence; }
+    double influenceDepth() const { return influence_; }
 
     /// The surface elevation [m] at a point.
     double eta(const double& x, const double& y) const;
@@ -58,19 +58,19 @@ public:
 
 private:
     /// x cos + y sin: the place of a point along the direction of travel.
-    double along(double x, double y) const { return x * cosine + y * sine; }
+    double along(double x, double y) const { return x * cosine_ + y * sine_; }
     void append(int n, const double* a, const double* k, const double* omega, const double* phase);
     void updateInfluence();
 
-    double direction; ///< degrees
-    int count = 0;
-    double rho;
-    double g;
-    double h;
-    double influence;
-    std::vector<waveComponent2D> list;
-    double cosine;
-    double sine;
+    double direction_; ///< degrees
+    int count_ = 0;
+    double rho_;
+    double g_;
+    double h_;
+    double influence_;
+    std::vector<waveComponent2D> list_;
+    double cosine_;
+    double sine_;
 };
 
 /// Writes direction [degrees], count and the values of each component on one tab-separated line.

@@ -125,7 +125,7 @@ TEST(lookupKey, findsKeysInAStream) {
     }
     std::istringstream in(text);
     EXPECT_END_SAYING(sorvikIO::findKey(in, "empty"), 1,
-                       "Key empty has no value in the input file!");
+                      "Key empty has no value in the input file!");
 }
 
 } // namespace

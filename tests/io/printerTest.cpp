@@ -9,9 +9,9 @@ namespace {
 
 TEST(printer, saysWhatAnInputLacks) {
     EXPECT_END_SAYING(printer::fatalNotFound("a", "<x>"), 1,
-                       "a in input file. \n\nExpected input of format : \n\ta = <x>\n\n\n* * *");
+                      "a in input file. \n\nExpected input of format : \n\ta = <x>\n\n\n* * *");
     EXPECT_END_SAYING(printer::fatalCheckSize(2, 3, "p"), 1,
-                       "Expected vector of size 3 for input p. Found length 2\n* * *");
+                      "Expected vector of size 3 for input p. Found length 2\n* * *");
     EXPECT_EQ(outputOf([] { printer::fatalCheckSize(3, 3, "x"); }), "");
 }
 

@@ -16,13 +16,13 @@ const v3<float> A = {1, 2, 3};
 const v3<float> B = {4, 2.5F, 3.25F};
 const v3<float> C = {1.5F, 7, 5};
 
-void expectNear(v3<float> const& found, double x, double y, double z, double tolerance = 1e-6) {
+void expectNear(const v3<float>& found, double x, double y, double z, double tolerance = 1e-6) {
     EXPECT_NEAR(static_cast<double>(found.x), x, tolerance);
     EXPECT_NEAR(static_cast<double>(found.y), y, tolerance);
     EXPECT_NEAR(static_cast<double>(found.z), z, tolerance);
 }
 
-void expectNear(numbers const& found, numbers const& expected, double tolerance) {
+void expectNear(const numbers& found, const numbers& expected, double tolerance) {
     ASSERT_EQ(found.size(), expected.size());
     for (std::size_t i = 0; i < found.size(); ++i) {
         EXPECT_NEAR(found[i], expected[i], tolerance) << i;
@@ -98,10 +98,10 @@ TEST(v3, addsOuterProducts) {
     EXPECT_EQ(M[0], 16777218.0);
     std::vector<double> small(8);
     EXPECT_END_SAYING((v3<float>().OP({}, small, false)), -1,
-                       "Fatal error. Size of v3 open product target is not 9. Exit. \n");
+                      "Fatal error. Size of v3 open product target is not 9. Exit. \n");
 }
 
-double wetArea(bodyMesh const& mesh) {
+double wetArea(const bodyMesh& mesh) {
     double sum = 0;
     for (const triangle* panel : mesh.wetFaces) {
         sum += panel->area;

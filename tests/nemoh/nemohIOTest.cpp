@@ -120,7 +120,7 @@ TEST_F(nemohProject, readsHydrostatics) {
     EXPECT_EQ(first, numbers({1, -2.5, 0.03}));
     writeFile(file, head + "****\n");
     EXPECT_END_SAYING(nemohIO::readC(project.path(), first), 1,
-                       file + ", line 4: expected the displ");
+                      file + ", line 4: expected the displ");
     EXPECT_EQ(outputOf([&] { EXPECT_EQ(nemohIO::readC("none", first), -1.0); }),
               "WARNING: none/KH.dat was not found. No hydrostatic stiffness read.\n"
               "WARNING: none/Hydrostatics.dat was not found. No volume read from Nemoh results.\n");
@@ -160,8 +160,8 @@ TEST_F(nemohProject, endsTheRunAtDamagedResults) {
     const std::string missing = project.path("results/ExcitationForce.tec");
     EXPECT_END_SAYING(read(4), 1, "FATAL ERROR: Could not open file " + missing + ". Exiting.\n");
     EXPECT_END_SAYING(nemoh.readCoeffs(2, 3, first, second), 1,
-                       "bodies: 3\nWarning: ndofs for body 3 were not found\nFATAL ERROR: Can not "
-                       "find Body 3 in Nemoh.cal file\n");
+                      "bodies: 3\nWarning: ndofs for body 3 were not found\nFATAL ERROR: Can not "
+                      "find Body 3 in Nemoh.cal file\n");
     // Lines 1 to 5 are the head; zones begin at 6, 9, 12 and 15, and 17 is the last line.
     const std::tuple<int, const char*, const char*, const char*> cases[] = {
         {4, "0.1310000E+03", "", "17: expected a frequency and 4 pairs of numbers, found \"  0.5"},

@@ -53,7 +53,7 @@ TEST(linearSolve, endsTheProcessWithAMessage) {
     EXPECT_END_SAYING(matrixOp::solveAxb(square, &narrow, &wide), 1, "found 2 x 1.\n");
     EXPECT_END_SAYING(wide.checkSize(five, 0), 1, "size : 2 x 3 to vector of size 5\n");
     EXPECT_END_SAYING(mMatrix(50000, 50000, six, 2), 1,
-                       "FATAL ERROR: Wrong size of double vector X.\n cannot assign");
+                      "FATAL ERROR: Wrong size of double vector X.\n cannot assign");
 }
 
 TEST(mMatrix, viewsItsStorageRowByRow) {

@@ -9,19 +9,19 @@
 
 temporaryFolder::temporaryFolder() {
     const std::string name = "sorvikTest." + std::to_string(std::random_device()());
-    folder = (std::filesystem::temp_directory_path() / name).generic_string();
-    if (!std::filesystem::create_directory(folder)) {
-        ADD_FAILURE() << "cannot make " << folder;
+    folder_ = (std::filesystem::temp_directory_path() / name).generic_string();
+    if (!std::filesystem::create_directory(folder_)) {
+        ADD_FAILURE() << "cannot make " << folder_;
     }
 }
 
 temporaryFolder::~temporaryFolder() {
     std::error_code ignored;
-    std::filesystem::remove_all(folder, ignored);
+    std::filesystem::remove_all(folder_, ignored);
 }
 
 std::string temporaryFolder::path(const std::string& name) const {
-    return name.empty() ? folder : folder + "/" + name;
+    return name.empty() ? folder_ : folder_ + "/" + name;
 }
 
 std::string writeFile(const std::string& path, const std::string& content) {

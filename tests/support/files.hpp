@@ -14,7 +14,7 @@ public:
     std::string path(const std::string& name = "") const;
 
 private:
-    std::string folder;
+    std::string folder_;
 };
 
 /// Writes the bytes, and returns the path.

@@ -1,6 +1,6 @@
 # shellcheck shell=bash disable=SC2034
-# Sourced by the other scripts: finds the Debian packages that a step needs, installs what is
-# missing where that is possible, and says what is missing where it is not.
+# Sourced by the other scripts. Finds the Debian packages that a step needs; installs those that are
+# missing if it runs as root, otherwise names them.
 
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
@@ -15,7 +15,7 @@ is_installed() {
     dpkg-query -W -f='${Status}' "$1" 2>/dev/null | grep -q 'install ok installed'
 }
 
-# require PACKAGE...: installs those that are missing.
+# require PACKAGE...: installs the missing packages.
 require() {
     local package missing=()
     command -v dpkg-query >/dev/null || return 0
@@ -34,7 +34,7 @@ require() {
         "${missing[@]}" >/dev/null
 }
 
-# build PRESET [TARGET...]: configures and builds quietly; shows the log where it fails.
+# build PRESET [TARGET...]: configures and builds quietly; shows the log on failure.
 build() {
     local preset=$1 log
     shift
@@ -48,7 +48,7 @@ build() {
     rm -f "$log"
 }
 
-# folder_of PRESET: where it is built.
+# folder_of PRESET: the build folder of a preset.
 folder_of() {
     case $1 in
         release | program) echo build ;;
@@ -56,7 +56,7 @@ folder_of() {
     esac
 }
 
-# program_of PRESET: leaves in `program` the command that runs the program of that build.
+# program_of PRESET: sets `program` to the command that runs the program of that build.
 program_of() {
     local folder file
     folder=$PWD/$(folder_of "$1")

@@ -1,4 +1,4 @@
-# Looks at a mesh before Nemoh does: awk -f checkMesh.awk MESH.dat
+# Checks a mesh for Nemoh: awk -f checkMesh.awk MESH.dat
 FNR == 1 { next }
 $1 == 0 { ++part; next }
 !part { ++nodes; x[$1] = $2; y[$1] = $3; z[$1] = $4; if (nodes == 1 || $4 > top) top = $4; next }
@@ -8,7 +8,7 @@ part == 1 {
     area = triangle($1, $2, $3) + triangle($1, $3, $4)
     if (area < 1e-7) ++small
 }
-# The area of a triangle; adds the volume between it and the origin.
+# Returns the area of a triangle and adds the volume between it and the origin.
 function triangle(a, b, c,    nx, ny, nz) {
     nx = (y[b] - y[a]) * (z[c] - z[a]) - (z[b] - z[a]) * (y[c] - y[a])
     ny = (z[b] - z[a]) * (x[c] - x[a]) - (x[b] - x[a]) * (z[c] - z[a])

@@ -1,6 +1,6 @@
 % Irregular sea of 2.5 m significant height, the same in every run. The amplitude of a component is
-% sqrt(2 S), without the spacing of the frequencies: Hs is therefore given as the height that is
-% wanted times the root of the spacing, here 2.5 m * sqrt(2 pi 0.0025 Hz) = 2.5 m * 0.125331.
+% sqrt(2 S), without the spacing of the frequencies. Hs is therefore the desired height times the
+% root of the spacing, here 2.5 m * sqrt(2 pi 0.0025 Hz) = 2.5 m * 0.125331.
 environment.ground.level = -60; % m
 environment.wave = {
    type       = JONSWAP;

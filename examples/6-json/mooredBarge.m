@@ -35,7 +35,7 @@ line1 = {
     material.EA       = 1.2e8
 }
 line2 = {
-    source   = line1           % what is not said here is as in line1
+    source   = line1           % all other entries are those of line1
     anchor   = [150; 0; -60]
     fairlead = (4, 0, -0.5)
 }

@@ -1,4 +1,4 @@
-# Draws sweep.tsv, the table of ./collect, as sweep.svg. Cases without results leave no point.
+# Draws sweep.tsv, the table of ./collect, as sweep.svg. Cases without results have no point.
 set terminal svg size 900,520 font "sans-serif,15" background "#ffffff" linewidth 1.4
 set output "sweep.svg"
 set datafile separator tab
@@ -14,7 +14,7 @@ set xrange [0:*]
 set yrange [0:*]
 set offsets 0, 0.5, 0.5, 0
 set key left top reverse Left samplen 2
-# Crests stand a little to the left of their Hs and troughs to the right, to be told apart.
+# Crests are shifted a little to the left of their Hs and troughs to the right, to keep them apart.
 aside = 0.05
 plot x title "as asked for" with lines linecolor "#909090" linewidth 1, \
      "sweep.tsv" using "Hs":"Hm0" title "Hm0, 4 standard deviations" \

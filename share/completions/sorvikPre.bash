@@ -1,6 +1,6 @@
 # bash completion of sorvikPre and sorvik-run                         -*- shell-script -*-
 
-# Files of the endings given, and folders on the way to them.
+# Lists files with the given endings, and folders that may contain them.
 _sorvikPre_files() {
     local word=$1 ending
     shift
@@ -26,7 +26,7 @@ _sorvikPre() {
         *) words="-meshConvert -nemoh -waveElevation -toJSON" ;;
         esac
         words=$(compgen -W "$words" -- "$word")
-        # The second name of a conversion stands behind the first.
+        # The second name of a conversion follows the first.
         if [[ ${COMP_WORDS[COMP_CWORD - 2]} == -meshConvert ]]; then
             words='' found=$(_sorvikPre_files "$word" "${meshes[@]}")
         fi

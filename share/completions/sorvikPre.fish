@@ -1,4 +1,4 @@
-# fish completion of sorvikPre; options stand behind their task.
+# fish completion of sorvikPre; options follow their task.
 function __sorvikPre_task
     set -l words (commandline -opc)
     contains -- $argv[1] $words

@@ -1,7 +1,7 @@
-# The elevation at the probes over time.
+# Draws the elevation at the probes over time.
 #     gnuplot -c elevation.gp FOLDER PICTURE.svg [PROBES.xy]
 # FOLDER holds waveElevation.dat. PROBES.xy, the file of -xyFile, puts positions into the legend.
-# Of more probes than 28 the first are drawn.
+# Draws at most 28 probes.
 if (ARGC < 2) { print "Usage: gnuplot -c elevation.gp FOLDER PICTURE.svg [PROBES.xy]"; exit status 1 }
 here = system("dirname '".ARG0."'"); folder = ARG1; picture = ARG2
 table = folder."/waveElevation.dat"
@@ -9,7 +9,7 @@ probes = int(system("awk '{ print (NF > 29 ? 28 : NF - 1); exit }' '".table."'")
 position(i) = ARGC < 3 ? "" : \
     system(sprintf("awk 'NF == 2 && ++n == %d { print \" at (\" $1 \", \" $2 \") m\" }' '%s'", i, ARG3))
 
-# The legend stands below the picture, which grows with it.
+# The legend is below the plot; the height of the picture depends on its rows.
 columns = ARGC < 3 ? 7 : 3
 rows = (probes + columns - 1) / columns
 height = 415 + 20 * rows

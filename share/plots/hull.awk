@@ -1,7 +1,7 @@
-# Projects a hull for hull.gp and gives gnuplot commands that draw it from the back to the front.
+# Projects a hull for hull.gp and prints gnuplot commands that draw it from back to front.
 #     awk -f hull.awk WETTED.dat HULL.gdf
-# Of the hull only what lies above the top of the wetted mesh is drawn. The waterline is the sides of
-# a single wetted panel with both ends at that height. Insides are drawn darker.
+# Draws only the part of the hull above the top of the wetted mesh. The waterline consists of the sides
+# with both ends at that height that belong to a single wetted panel. Insides are darker.
 BEGIN {
     degree = atan2(0, -1) / 180
     ca = cos(30 * degree); sa = sin(30 * degree) # the viewer stands at the azimuth -120 degrees
@@ -22,7 +22,7 @@ function panel(a, b, c) {
     side[a, b]; side[b, c]; side[c, a]
 }
 
-# Appends a point to the polygon in the making.
+# Appends a point to the current polygon.
 function point(a, b, c,    u, v, w) {
     u = a * ca - b * sa; w = a * sa + b * ca
     v = c * ce + w * se; depth += w * ce - c * se
@@ -33,7 +33,7 @@ function point(a, b, c,    u, v, w) {
     if (c < z0) z0 = c; if (c > z1) z1 = c
     U[++corners] = u; V[corners] = v
 }
-# Appends the start of the side from a to b, and where the side goes through the water level.
+# Appends the start of the side from a to b, and its intersection with the water level.
 function follow(a, b, dry,    s) {
     if (!dry || z[a] >= level) point(x[a], y[a], z[a])
     if (dry && (z[a] - level) * (z[b] - level) < 0) {
@@ -50,7 +50,7 @@ function waterline(a, b) {
     if (z[a] < level - 1e-4 || z[b] < level - 1e-4 || (b, a) in side) return
     corners = depth = 0
     point(x[a], y[a], z[a]); point(x[b], y[b], z[b])
-    facing = (y[b] - y[a]) * sa > (x[b] - x[a]) * ca # then it stands before all panels
+    facing = (y[b] - y[a]) * sa > (x[b] - x[a]) * ca # then it lies in front of all panels
     draw("fillstyle empty border rgb waterlineColour linewidth 2.5", facing ? 10 * size : size / 400)
 }
 END {

@@ -1,6 +1,6 @@
-# A hull, its wetted surface and its waterline.
+# Draws a hull, its wetted surface and its waterline.
 #     gnuplot -c hull.gp HULL.gdf WETTED.dat PICTURE.svg
-# Both meshes as sorvikPre writes them: HULL.gdf without -wet, WETTED.dat cut at the water level.
+# sorvikPre writes both meshes: HULL.gdf without -wet, WETTED.dat cut at the water level.
 if (ARGC < 3) { print "Usage: gnuplot -c hull.gp HULL.gdf WETTED.dat PICTURE.svg"; exit status 1 }
 here = system("dirname '".ARG0."'"); picture = ARG3; hull = ARG1; wetted = ARG2
 load here."/style.gp"
@@ -13,7 +13,7 @@ set label sprintf("Hull of %g x %g x %g m with its waterline at z = %g m", lengt
     at screen 0.5, 0.94 center
 set key at screen 0.5, 0.88 center horizontal Left reverse samplen 1.5
 
-# The drawing fills 0.92 of the width or 0.76 of the height of the canvas, and stands in the middle.
+# The drawing is centred and fills 0.92 of the width or 0.76 of the height of the canvas.
 set lmargin at screen 0.04; set rmargin at screen 0.96; set bmargin at screen 0.04; set tmargin at screen 0.8
 aspect = 0.92 * 900 / (0.76 * height)
 half = 0.5 * (right - left > (high - low) * aspect ? right - left : (high - low) * aspect)

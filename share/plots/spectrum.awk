@@ -1,8 +1,9 @@
-# Spectrum of the signal of one probe: frequency [Hz] and one-sided density [m2/Hz], whose integral is
-# the variance of the signal.
+# Prints the spectrum of the signal of one probe: frequency [Hz] and one-sided density [m2/Hz]. The
+# density integrates to the variance of the signal.
 #     awk [-v probe=1] [-v from=0] [-v to=END] [-v smooth=1] -f spectrum.awk waveElevation.dat
-# Takes the equally spaced instants with from <= t < to and gives the periodogram, less the mean, at
-# the multiples of 1/(to - from) up to half the sampling frequency, `smooth` neighbours averaged.
+# It computes the periodogram of the equally spaced instants with from <= t < to, after removing the
+# mean, at the multiples of 1/(to - from) up to half the sampling frequency, and averages each `smooth`
+# neighbours.
 BEGIN { if (!probe) probe = 1; if (!smooth) smooth = 1; from += 0; bounded = to != "" }
 $1 + 0 < from || (bounded && $1 + 0 >= to + 0) { next }
 {

@@ -1,8 +1,8 @@
-# The spectrum of a probe's signal against the JONSWAP curve.
+# Draws the spectrum of a probe's signal and the JONSWAP curve.
 #     gnuplot -c spectrum.gp FOLDER PICTURE.svg HS FP GAMMA [FROM TO [PROBE [SMOOTH]]]
-# HS [m] and FP [Hz] are those of the curve. The signal is taken for FROM <= t < TO [s]; a whole number
-# of periods of the sea after the ramp shows its components without leakage. SMOOTH neighbours of
-# the periodogram are averaged.
+# HS [m], FP [Hz] and GAMMA define the curve. The signal is that of FROM <= t < TO [s]; a whole number
+# of repeat periods of the sea after the ramp shows its components without leakage. The periodogram is
+# averaged over SMOOTH neighbours.
 if (ARGC < 5) { print "Usage: gnuplot -c spectrum.gp FOLDER PICTURE.svg HS FP GAMMA [FROM TO [PROBE [SMOOTH]]]"; exit status 1 }
 here = system("dirname '".ARG0."'"); folder = ARG1; picture = ARG2
 load here."/style.gp"

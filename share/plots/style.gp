@@ -1,5 +1,5 @@
-# Common to the pictures: SVG that is the same in every run, fonts, grid, and colours that the
-# colour-blind tell apart. Expects the name of the `picture`.
+# Common style of the pictures: reproducible SVG, fonts, grid, and colours for colour-blind readers.
+# Expects `picture`, the name of the picture.
 if (!exists("height")) { height = 420 }
 set terminal svg size 900,height font "sans-serif,15" background "#ffffff" linewidth 1.4
 set output picture

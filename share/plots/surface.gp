@@ -1,7 +1,7 @@
-# The surface of a grid at an instant, seen from above.
+# Draws the surface on a grid at one instant, seen from above.
 #     gnuplot -c surface.gp FOLDER PICTURE.svg [TIME]
-# FOLDER holds waveElevation.dat and waveDomain.dat. The first instant at or after TIME [s] is shown,
-# the last one without TIME.
+# FOLDER holds waveElevation.dat and waveDomain.dat. The picture shows the first instant at or after
+# TIME [s]; the default is the last instant.
 if (ARGC < 2) { print "Usage: gnuplot -c surface.gp FOLDER PICTURE.svg [TIME]"; exit status 1 }
 here = system("dirname '".ARG0."'"); folder = ARG1; picture = ARG2
 height = 520

@@ -53,12 +53,12 @@ struct paragraph {
 class cliCase : public testing::Test {
 public:
     cliCase(std::string fileName, paragraph parts)
-        : file(std::move(fileName)), told(std::move(parts)) {}
+        : file_(std::move(fileName)), told_(std::move(parts)) {}
 
 private:
     void TestBody() override {
-        std::istringstream in(told.text);
-        int number = told.line;
+        std::istringstream in(told_.text);
+        int number = told_.line;
         for (std::string head, line; std::getline(in, head);) {
             const int headNumber = ++number;
             std::istringstream words(head);
@@ -76,7 +76,7 @@ private:
             const std::string fault =
                 mark[0] == '$' ? faultOfRun(mark, words) : faultOfFile(mark, name, content);
             if (!fault.empty()) {
-                ADD_FAILURE_AT(file.c_str(), headNumber)
+                ADD_FAILURE_AT(file_.c_str(), headNumber)
                     << head << " (- expected, + found)" << fault;
             }
         }
@@ -87,22 +87,22 @@ private:
             return line.substr(1) + (line[0] == '|' ? "\n" : "");
         }
         const std::string name = line.substr(2, line.size() - 3);
-        const bool isOwn = std::filesystem::exists(folder.path(name));
-        return readFile(isOwn ? folder.path(name) : SORVIK_TEST_DATA "/" + name);
+        const bool isOwn = std::filesystem::exists(folder_.path(name));
+        return readFile(isOwn ? folder_.path(name) : SORVIK_TEST_DATA "/" + name);
     }
 
     std::string faultOfRun(const std::string& mark, std::istream& words) const {
         const std::string status = mark == "$" ? "0" : mark.substr(1);
         const programRun run =
-            runProgram({std::istream_iterator<std::string>(words), {}}, folder.path());
-        writeFile(folder.path("output"), run.output);
+            runProgram({std::istream_iterator<std::string>(words), {}}, folder_.path());
+        writeFile(folder_.path("output"), run.output);
         return difference("status " + status + '\n',
                           "status " + std::to_string(run.status) + '\n' + run.errors);
     }
 
     std::string faultOfFile(const std::string& mark, const std::string& name,
                             const std::string& content) const {
-        const std::string path = folder.path(name);
+        const std::string path = folder_.path(name);
         if (mark == ">" || mark == "~") {
             const std::string found = readFile(path);
             const bool isHeld =
@@ -120,9 +120,9 @@ private:
         return "";
     }
 
-    const std::string file;
-    const paragraph told;
-    const temporaryFolder folder;
+    const std::string file_;
+    const paragraph told_;
+    const temporaryFolder folder_;
 };
 
 std::vector<paragraph> readParagraphs(std::istream& in) {

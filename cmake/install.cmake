@@ -5,7 +5,6 @@ include(CMakePackageConfigHelpers)
 set(SORVIK_ZSH_COMPLETIONS ${CMAKE_INSTALL_DATADIR}/zsh/site-functions
     CACHE STRING "Where zsh looks for completions")
 
-target_compile_features(sorvik PUBLIC cxx_std_17)
 install(TARGETS sorvikPre)
 install(TARGETS sorvik EXPORT sorvik INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/sorvik)
 install(DIRECTORY src/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/sorvik

@@ -1,5 +1,4 @@
-# What `cmake --install` puts where. The suite's other programs get the library through
-# find_package(sorvik); the front end's headers are its own.
+# What `cmake --install` puts where. Programs that use the library find it by find_package(sorvik).
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 set(SORVIK_ZSH_COMPLETIONS ${CMAKE_INSTALL_DATADIR}/zsh/site-functions
@@ -7,8 +6,10 @@ set(SORVIK_ZSH_COMPLETIONS ${CMAKE_INSTALL_DATADIR}/zsh/site-functions
 
 install(TARGETS sorvikPre)
 install(TARGETS sorvik EXPORT sorvik INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/sorvik)
-install(DIRECTORY src/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/sorvik
-  FILES_MATCHING PATTERN "*.hpp" PATTERN app EXCLUDE)
+foreach(header IN LISTS SORVIK_PUBLIC_HEADERS)
+  get_filename_component(folder ${header} DIRECTORY)
+  install(FILES src/${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/sorvik/${folder})
+endforeach()
 
 set(configFolder ${CMAKE_INSTALL_LIBDIR}/cmake/sorvik)
 install(EXPORT sorvik FILE sorvikConfig.cmake NAMESPACE sorvik:: DESTINATION ${configFolder})

@@ -1,0 +1,34 @@
+# The headers that programs which use the library need, below src/. They are installed, make up the
+# reference, and include one another and the standard library only.
+set(SORVIK_PUBLIC_HEADERS
+  numerics/integration.hpp
+  numerics/interpolation.hpp
+  numerics/leastSquares.hpp
+  numerics/linearSolve.hpp
+  numerics/mMatrix.hpp
+  numerics/matrixKernels.hpp
+  numerics/matrixOp.hpp
+  numerics/newtonRaphson.hpp
+  numerics/pointKernels.hpp
+  numerics/vectorKernels.hpp
+  io/inputMap.hpp
+  io/printer.hpp
+  io/reader.hpp
+  io/sorvikIO.hpp
+  mesh/bodyMesh.hpp
+  mesh/triangle.hpp
+  mesh/v3.hpp
+  waves/Jonswap.hpp
+  waves/customWave.hpp
+  waves/elevationTable.hpp
+  waves/fluidState.hpp
+  waves/globals.hpp
+  waves/regularWave.hpp
+  waves/timeInstants.hpp
+  waves/waveComponent2D.hpp
+  waves/waveElevation.hpp
+  waves/waveFactory.hpp
+  waves/waveModel.hpp
+  waves/waveTrain.hpp
+  nemoh/nemohIO.hpp
+  nemoh/setNemohCase.hpp)

@@ -7,7 +7,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 build_packages=(g++ cmake ninja-build)
 test_packages=(libgtest-dev libgmock-dev gnuplot-nox libxml2-utils python3 parallel procps)
-check_packages=(clang clang-format clang-tidy libclang-rt-dev libbenchmark-dev shellcheck git
+check_packages=(clang clang-format clang-tidy libclang-rt-dev libbenchmark-dev shellcheck git doxygen
     pandoc mandoc groff-base busybox zsh fish python3-yaml)
 package_packages=(dpkg-dev lintian pandoc debootstrap git)
 

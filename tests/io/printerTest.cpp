@@ -19,9 +19,8 @@ TEST(printer, printsMatricesAndLines) {
     const std::vector<double> data = {1, 2.5, -3, 1e9};
     EXPECT_EQ(outputOf([&] { printer::printMatrix(2, 2, data, "A"); }),
               "----- A -----\n\t1\t2.5\n\t-3\t1e+09\n-------------\n\n");
-    EXPECT_EQ(outputOf([&] {
-                  printer::printMatrix(1, 2, std::vector<std::string>{"x", "yy"}, "AB");
-              }),
+    const std::vector<std::string> words = {"x", "yy"};
+    EXPECT_EQ(outputOf([&] { printer::printMatrix(1, 2, words, "AB"); }),
               "----- AB -----\nx  yy  \n--------------\n\n");
     std::ostringstream line;
     printer::printLine(line, 2, 0.5, 10, data.data());

@@ -1,6 +1,7 @@
 # The headers that programs which use the library need, below src/. They are installed, make up the
 # reference, and include one another and the standard library only.
 set(SORVIK_PUBLIC_HEADERS
+  base/processEnd.hpp
   numerics/integration.hpp
   numerics/interpolation.hpp
   numerics/leastSquares.hpp
@@ -11,6 +12,7 @@ set(SORVIK_PUBLIC_HEADERS
   numerics/newtonRaphson.hpp
   numerics/pointKernels.hpp
   numerics/vectorKernels.hpp
+  io/inputLimits.hpp
   io/inputMap.hpp
   io/printer.hpp
   io/reader.hpp

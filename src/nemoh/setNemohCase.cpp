@@ -8,22 +8,28 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <optional>
 #include <string>
 #include <vector>
 
 namespace {
 
-constexpr double cutLevel = 0.0;
+constexpr double cutLevel = 0.0; // m
 constexpr std::size_t extensionLength = 4;
+
+/// What stops the project: the line for the console, or nothing.
+using failure = std::string;
+
+failure fatal(const std::string& message) {
+    return " FATAL ERROR: " + message;
+}
 
 /// The settings of the body, "hydroBody" + name + ".bemInput".
 struct bodySettings {
     std::string prefix;
-    std::vector<double> cogInMesh;
+    std::vector<double> cogInMesh; ///< x, y, z [m]
     std::string meshName;
     bool keepsMesh = false;
-    std::vector<double> position;
+    std::vector<double> position; ///< x, y, z [m]
 };
 
 /// The surface that Nemoh computes: its file in the project folder, and what the file holds.
@@ -32,20 +38,6 @@ struct projectMesh {
     int points = 0;
     int panels = 0;
 };
-
-void printFatal(const std::string& message) {
-    std::cout << " FATAL ERROR: " << message << std::endl;
-}
-
-/// The text of a key, or what is wrong without it.
-std::optional<std::string> required(const inputMap& inputs, const char* key, const char* message) {
-    const auto entry = inputs.map.find(key);
-    if (entry == inputs.map.end()) {
-        std::cout << " ERROR: " << message << std::endl;
-        return std::nullopt;
-    }
-    return entry->second;
-}
 
 void writeEnvironment(const inputMap& inputs, nemohIO& project) {
     const double density = inputs.read("environment.waterDensity", 1000.0);
@@ -73,34 +65,27 @@ bodySettings readBodySettings(const inputMap& inputs, const std::string& body) {
     return settings;
 }
 
-bool isPoint(const std::string& key, const std::vector<double>& values) {
+failure checkPoint(const std::string& key, const std::vector<double>& values) {
     if (values.size() >= 3) {
-        return true;
+        return {};
     }
-    printFatal("Expected 3 numbers for " + key + ", found " + std::to_string(values.size()));
-    return false;
-}
-
-/// Whether what is needed of the settings can be used. A mesh that is kept needs no "cogInMesh".
-bool areUsable(const bodySettings& settings) {
-    if (!isPoint(settings.prefix + "position", settings.position)) {
-        return false;
-    }
-    return settings.keepsMesh || isPoint(settings.prefix + "cogInMesh", settings.cogInMesh);
+    return fatal("Expected 3 numbers for " + key + ", found " + std::to_string(values.size()));
 }
 
 /// Moves the mesh to its position and writes what of it lies below the water.
-std::optional<projectMesh> placeMesh(const bodySettings& settings, const std::string& folder) {
+failure placeMesh(const bodySettings& settings, const std::string& folder, projectMesh& wetted) {
+    failure wrongPoint = checkPoint(settings.prefix + "cogInMesh", settings.cogInMesh);
+    if (!wrongPoint.empty()) {
+        return wrongPoint;
+    }
     std::cout << "Manipulating mesh to move into position, and cut at the waterline." << std::endl;
     const std::string& file = settings.meshName;
     if (file.size() < extensionLength) {
-        printFatal("Expected a name with an extension such as .stl for meshfile " + file);
-        return std::nullopt;
+        return fatal("Expected a name with an extension such as .stl for meshfile " + file);
     }
     bodyMesh mesh(file, settings.cogInMesh, settings.position, cutLevel);
     mesh.translate();
 
-    projectMesh wetted;
     wetted.name =
         sorvikIO::fileNameFromPath(file.substr(0, file.size() - extensionLength) + "_wetted.dat");
     mesh.updateWetSurface(cutLevel);
@@ -108,12 +93,8 @@ std::optional<projectMesh> placeMesh(const bodySettings& settings, const std::st
     std::ofstream out = sorvik::files::create(target);
     wetted.points = out.is_open() ? mesh.nemoh_write(out) : 0;
     out.close();
-    if (!out) {
-        printFatal("Cannot write meshfile " + target);
-        return std::nullopt;
-    }
     wetted.panels = static_cast<int>(mesh.wetFaces.size());
-    return wetted;
+    return out ? failure() : fatal("Cannot write meshfile " + target);
 }
 
 /// Copies the file `source`, which is open as `in`.
@@ -132,30 +113,39 @@ bool copyFile(std::istream& in, const std::string& source, const std::string& ta
 }
 
 /// Copies the mesh, which is a Nemoh mesh already, into the project.
-std::optional<projectMesh> keepMesh(const bodySettings& settings, const std::string& folder) {
+failure keepMesh(const bodySettings& settings, const std::string& folder, projectMesh& kept) {
     std::cout << "Mesh manipulation turned off (with keepMesh switch). cogInMesh input will be "
                  "ignored."
               << std::endl;
-    projectMesh kept;
     kept.name = sorvikIO::fileNameFromPath(settings.meshName);
     std::cout << "mesh only name is: " << kept.name << std::endl;
     std::ifstream in = sorvik::files::open(settings.meshName);
     if (!in.is_open()) {
-        printFatal("Cannot find meshfile " + settings.meshName);
-        return std::nullopt;
+        return fatal("Cannot find meshfile " + settings.meshName);
     }
     const std::string target = folder + "/" + kept.name;
     if (!copyFile(in, settings.meshName, target)) {
-        printFatal("Cannot write meshfile " + target);
-        return std::nullopt;
+        return fatal("Cannot write meshfile " + target);
     }
     std::ifstream copy = sorvik::files::open(target);
     bodyMesh::nemoh_countMesh(copy, kept.points, kept.panels);
-    if (!copy.is_open() || copy.bad()) {
-        printFatal("Cannot read meshfile " + target);
-        return std::nullopt;
+    const bool wasRead = copy.is_open() && !copy.bad();
+    return wasRead ? failure() : fatal("Cannot read meshfile " + target);
+}
+
+/// Puts the mesh of the body into the project folder and describes the body in `Nemoh.cal`.
+failure writeBody(const bodySettings& settings, const std::string& folder, nemohIO& project) {
+    projectMesh mesh;
+    failure problem = checkPoint(settings.prefix + "position", settings.position);
+    if (problem.empty()) {
+        problem = settings.keepsMesh ? keepMesh(settings, folder, mesh)
+                                     : placeMesh(settings, folder, mesh);
     }
-    return kept;
+    if (problem.empty()) {
+        project.addBody(mesh.name, mesh.points, mesh.panels, {1, 2, 3, 4, 5, 6}, settings.position,
+                        {});
+    }
+    return problem;
 }
 
 void writeLoadCases(const inputMap& inputs, nemohIO& project) {
@@ -173,41 +163,38 @@ void writeLoadCases(const inputMap& inputs, nemohIO& project) {
     project.addPostProc(responseStep, responseDuration);
 }
 
+failure writeProject(const inputMap& inputs) {
+    const auto output = inputs.map.find("bem.output");
+    if (output == inputs.map.end()) {
+        // The message names a longer key than the one that is read; callers count on both.
+        return " ERROR: No output specified. Please specify output folder as bem.nemoh.output= "
+               "<myNemohResults>";
+    }
+    const std::string& folder = output->second;
+    nemohIO project(folder);
+    const auto body = inputs.map.find("bem.body");
+    if (body == inputs.map.end()) {
+        return " ERROR: No body specified. Please specify a hydrodynamic body name in bem.body";
+    }
+    std::cout << body->second << std::endl;
+    writeEnvironment(inputs, project);
+    failure problem = writeBody(readBodySettings(inputs, body->second), folder, project);
+    if (problem.empty()) {
+        writeLoadCases(inputs, project);
+        if (!project.finish()) {
+            problem = fatal("Cannot write " + folder + "/Nemoh.cal");
+        }
+    }
+    return problem;
+}
+
 } // namespace
 
 int setNemohCase(const inputMap& inputs) {
-    // The message names a longer key than the one that is read; callers count on both.
-    const auto output = required(inputs, "bem.output",
-                                 "No output specified. Please specify output folder as "
-                                 "bem.nemoh.output= <myNemohResults>");
-    if (!output) {
-        return -1;
+    const failure problem = writeProject(inputs);
+    if (problem.empty()) {
+        return 1;
     }
-    const std::string& folder = *output;
-    nemohIO project(folder);
-    const auto body =
-        required(inputs, "bem.body",
-                 "No body specified. Please specify a hydrodynamic body name in bem.body");
-    if (!body) {
-        return -1;
-    }
-    std::cout << *body << std::endl;
-    writeEnvironment(inputs, project);
-
-    const bodySettings settings = readBodySettings(inputs, *body);
-    if (!areUsable(settings)) {
-        return -1;
-    }
-    const auto mesh = settings.keepsMesh ? keepMesh(settings, folder) : placeMesh(settings, folder);
-    if (!mesh) {
-        return -1;
-    }
-    project.addBody(mesh->name, mesh->points, mesh->panels, {1, 2, 3, 4, 5, 6}, settings.position,
-                    {});
-    writeLoadCases(inputs, project);
-    if (!project.finish()) {
-        printFatal("Cannot write " + folder + "/Nemoh.cal");
-        return -1;
-    }
-    return 1;
+    std::cout << problem << std::endl;
+    return -1;
 }

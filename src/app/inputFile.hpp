@@ -6,7 +6,8 @@
 
 namespace sorvik {
 
-/// The entries of the input file. One that cannot be opened ends the process with status -1.
+/// Returns the entries of the input file `name`. One that cannot be opened ends the process with
+/// status -1.
 inputMap readInputFile(const std::string& name);
 
 } // namespace sorvik

@@ -20,7 +20,7 @@ bool isAsked(const char* flag, int argc, const char** argv) {
     return reader::findFlag(flag, argc, argv, position);
 }
 
-/// Makes the Nemoh project that the input file named by -f asks for; returns the exit status.
+/// Makes the Nemoh project of the input file that -f names, and returns the exit status.
 int nemohProject(int argc, const char** argv) {
     std::cout << " Creating Nemoh project " << std::endl;
     std::string name;
@@ -37,8 +37,8 @@ int nemohProject(int argc, const char** argv) {
 
 } // namespace
 
-/// Runs the task whose flag comes first in the order below. A mesh conversion goes on to the
-/// others.
+/// Runs the task whose flag comes first in the order below, after a mesh conversion if there is
+/// one.
 int main(int argc, const char** argv) {
     if (argc < 2) {
         help();

@@ -11,14 +11,14 @@ namespace sorvik {
 
 namespace {
 
-/// What the options ask for.
+/// The values of the options.
 struct conversionOptions {
     std::vector<double> origin = {0.0, 0.0, 0.0}; ///< in mesh coordinates [m]
     double level = 0.0;                           ///< relative to the origin [m]
     bool wetOnly = false;
 };
 
-/// Reads the options; false, after a warning, where one lacks values.
+/// Reads the options. Returns false, after a warning, if one lacks values.
 bool readOptions(int argc, const char** argv, conversionOptions& options) {
     int flag = argc;
     if (reader::findFlag("-origin", argc, argv, flag)) {

@@ -2,12 +2,12 @@
 
 namespace sorvik {
 
-/// The -meshConvert task, whose flag stands at `position` of the command line: reads the mesh named
-/// behind it, moves its origin (-origin x y z), cuts it at a level (-wet swl) and writes it under
-/// the second name.
+/// The -meshConvert task, whose flag is argument `position`: reads the mesh that the next argument
+/// names, moves its origin to -origin x y z [m], cuts it at the level -wet swl [m above the origin]
+/// and writes it to the name after that.
 ///
-/// Returns false where an option lacks its values: the program then ends with status 0. Whatever
-/// else happens, it goes on to the other tasks.
+/// Returns false if an option lacks its values, after which the program ends with status 0;
+/// otherwise true, also after a failed conversion, and the program goes on to the other tasks.
 bool meshConvert(int position, int argc, const char** argv);
 
 } // namespace sorvik

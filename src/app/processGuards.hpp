@@ -2,11 +2,11 @@
 
 namespace sorvik {
 
-/// What holds for the whole run, static initialisation included.
+/// Holds for the whole run, including static initialisation.
 class processGuards {
 public:
-    /// Lets an allocation that fails end the process with a fatal error, and holds the standard
-    /// streams: messages must not go into results, nor change on their way.
+    /// Makes a failed allocation a fatal error, and holds the standard streams, so that messages
+    /// neither go into results nor change on their way.
     processGuards();
 };
 

@@ -16,7 +16,7 @@
 
 namespace {
 
-/// Ends the process with the line that `in` stands in, whatever state it is in.
+/// Ends the process with an error that shows the line where reading `in` stopped.
 [[noreturn]] void fatalHere(std::istream& in, const std::string& file,
                             const std::string& expected) {
     in.clear();

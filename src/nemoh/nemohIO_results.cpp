@@ -21,11 +21,11 @@
 //     Zone t="Motion of body    1 in DoF   1",I=   128,F=POINT
 //       0.2500000E-01  0.3149986E+08  0.3708163E-02 ...   frequency, then a pair per force
 //
-// A line that begins with a quote names a column wherever it stands, and blank lines are skipped.
+// A line that begins with a quote names columns, also between zones. Blank lines are skipped.
 
 namespace {
 
-/// What a result file holds: zones of `lines` lines of `pairs` pairs behind a frequency.
+/// The shape of a result file: zones of `lines` lines, each a frequency and `pairs` pairs.
 struct zoneShape {
     std::int64_t zones;
     std::int64_t lines;
@@ -89,7 +89,7 @@ public:
     }
 
     const std::string& line() const { return text_; }
-    /// The first character that is no blank.
+    /// The first character that is not blank.
     char mark() const { return text_[start_]; }
 
     [[noreturn]] void fatal(const std::string& expected) const {
@@ -123,8 +123,8 @@ void readPairs(const resultLines& lines, std::int64_t expected, columnPairs& pai
     }
 }
 
-/// Reads all zones behind a head of at most `headLines` lines, which ends with a zone line. Only
-/// what has been read is stored, so that no count asks for memory.
+/// Reads all zones after a head of at most `headLines` lines, which ends with a zone line. Stores
+/// only what has been read, so that no count asks for memory.
 columnPairs readZones(resultLines& lines, std::int64_t headLines, const zoneShape& shape) {
     bool inHead = true;
     for (std::int64_t line = 0; inHead && line < headLines; ++line) {

@@ -6,8 +6,8 @@ namespace matrixOp {
 /// Interpolates linearly, at the abscissa `at`, in n rows Y of m columns (n x m) that belong to the
 /// ascending abscissae x, and gives the m values y.
 ///
-/// Outside x the first and the last row hold. Where an abscissa stands more than once, its last row
-/// counts. A NaN in `at` gives NaN.
+/// Outside x the first and the last row hold. If an abscissa occurs more than once, its last row is
+/// used. A NaN in `at` gives NaN.
 void interpolateLinear(int n, int m, const double& at, const double* x, const double* Y, double* y);
 
 /// The same for one column. NaN for n below 1.
@@ -18,8 +18,8 @@ double interpolateLinear(int n, const double& at, const double* x, const double*
 /// and add up to 1. Does nothing for n below 2.
 void lerpFactors(int n, int m, const double* x, const double* at, int* lower, double* w);
 
-/// Two unit vectors that lie on one line but for this much (in radians) count as equal or opposite:
-/// the plane that they span is lost in rounding.
+/// Unit vectors within this angle [rad] of one line are taken as equal or opposite: the plane that
+/// they span is lost in rounding.
 constexpr double parallelTolerance = 1e-15;
 
 /// Unit vector c at the share t of the way from a to b, two unit vectors of three components, along

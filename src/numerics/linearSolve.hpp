@@ -6,9 +6,9 @@
 
 /// Systems of linear equations by Gaussian elimination with row pivoting.
 ///
-/// A matrix counts as singular where a pivot is lost in rounding, whatever the units of equations
-/// and unknowns: where its magnitude is at most n * 2.2e-16 once every row, and then every column,
-/// is divided by its largest entry. So does a matrix with entries that are not finite.
+/// A matrix is singular if a pivot is lost in rounding, whatever the units of equations and
+/// unknowns: if its magnitude is at most n * 2.2e-16 once every row, and then every column, is
+/// divided by its largest entry. A matrix with entries that are not finite is singular too.
 ///
 /// A right-hand side `b` has n rows and as many columns as there are systems to solve. Matrices
 /// that do not fit together end the process with a message and status 1.

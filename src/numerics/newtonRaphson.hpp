@@ -16,7 +16,7 @@ constexpr int maxNewtonSteps = 50;
 ///
 /// `magnitude` holds a typical size of each unknown, which serves where the unknown itself is
 /// smaller: differences step by sqrt(2.2e-16) of the larger of the two, and the tolerance is a
-/// share of it. nullptr stands for 1 throughout. `x` may be `start`.
+/// share of it. nullptr means 1 for all. `x` may be `start`.
 ///
 /// Returns true once the last step was within the tolerance, or all residuals are exactly 0. False
 /// after `maxNewtonSteps`, with a singular Jacobian, or with residuals that are not finite; `x` is

@@ -5,8 +5,6 @@
 #include <cmath>
 #include <cstddef>
 
-void (*matrixOp::l2Norm)(const int&, const double*, double*) = matrixOp::l2Norm3D;
-
 namespace {
 
 template <int components>
@@ -61,6 +59,8 @@ void project(int dim, std::vector<T>& v) {
 }
 
 } // namespace
+
+void (*matrixOp::l2Norm)(const int&, const double*, double*) = matrixOp::l2Norm3D;
 
 void matrixOp::l2Norm1D(const int& n, const double* X, double* out) {
     norms<1>(n, X, out);

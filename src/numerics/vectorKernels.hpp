@@ -48,14 +48,14 @@ void componentDivideAndAdd(int m, int n, const double* x, const double* y, doubl
 double dot(int n, const double* x, const double* y);
 double sum(int n, const double* x);
 
-/// Largest and smallest entry, and largest magnitude. Entries that are NaN are passed over; if no
-/// other is left, or for n below 1, the result is -infinity, +infinity and 0.
+/// Largest and smallest entry, and largest magnitude. NaN is ignored; without another entry, or for
+/// n below 1, the result is -infinity, +infinity and 0.
 double max(int n, const double* x);
 double min(int n, const double* x);
 double absmax(int n, const double* x);
 
-/// Index of the first entry with that value, which goes to `value`. Where there is none, -1, and
-/// `value` stays.
+/// Index of the first entry with that value, which is stored in `value`; -1 if there is none, and
+/// `value` is unchanged.
 int max(int n, const double* x, double& value);
 int min(int n, const double* x, double& value);
 int absmax(int n, const double* x, double& value);

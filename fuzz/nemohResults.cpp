@@ -16,29 +16,30 @@ bool ends(Read read) {
     return true;
 }
 
-/// Compares the pairs of all lines behind the head, which ends with a zone line, with their places.
+/// Compares all pairs after the head, which ends with a zone line, with their places.
 void checkPlaces(const std::string& results, std::size_t freqs, std::size_t forces,
                  const numbers& first, const numbers& second) {
     std::istringstream in(results);
-    std::size_t head = forces + 2, line = 0;
+    std::stringstream data;
+    std::size_t head = forces + 2;
     for (std::string text; std::getline(in, text);) {
-        const std::size_t start = text.find_first_not_of(" \t\r");
-        const char mark = start == std::string::npos ? '"' : text[start];
-        if (start != std::string::npos && head > 0) {
+        char mark = 0;
+        if (!(std::istringstream(text) >> mark)) {
+            continue;
+        }
+        if (head > 0) {
             head = mark == 'Z' ? 0 : head - 1;
-            continue;
+        } else if (mark != 'Z' && mark != '"') {
+            data << text << '\n';
         }
-        if (mark == 'Z' || mark == '"') {
-            continue;
-        }
-        std::istringstream row(text);
+    }
+    for (std::size_t line = 0; line * forces < first.size(); ++line) {
         double a = 0, b = 0;
-        row >> a;
-        for (std::size_t at = line / freqs * freqs * forces + line % freqs; row >> a >> b;) {
-            check(first.at(at) == a && second.at(at) == b);
-            at += freqs;
+        data >> a;
+        for (std::size_t force = 0; force < forces; ++force) {
+            const std::size_t at = (line / freqs * forces + force) * freqs + line % freqs;
+            check(data >> a >> b && first.at(at) == a && second.at(at) == b);
         }
-        ++line;
     }
 }
 

@@ -33,7 +33,8 @@ TEST(leastSquares, fitsTheLine) {
     // x, y, slope and intercept: worked by hand, far from 0, and without a slope
     const numbers cases[][3] = {{{0, 1, 2, 3}, {1, 3, 2, 5}, {1.1, 1.1}},
                                 {{1e9, 1e9 + 1, 1e9 + 3}, {5, 3, -1}, {-2, 2e9 + 5}},
-                                {{0.1, 0.1, 0.1}, {1, 2, 4}, {0, 7 / 3.0}}};
+                                {{0.1, 0.1, 0.1}, {1, 2, 4}, {0, 7 / 3.0}},
+                                {{5}, {3}, {0, 3}}};
     for (const auto& [x, y, line] : cases) {
         const int n = static_cast<int>(x.size());
         double slope = 99, intercept = 99;

@@ -29,7 +29,7 @@ TEST(linearSolve, leavesResidualsOfRoundingSize) {
     }
 }
 
-TEST(linearSolve, tellsSingularMatricesFromOddUnits) {
+TEST(linearSolve, distinguishesSingularMatricesFromOddUnits) {
     const numbers singular[] = {
         {1, 2, 0, 0}, {0.1, 0.7, 0.7, 4.9}, {1, notANumber, 3, 4}, {1, 2, HUGE_VAL, 4}};
     // The others need an exchange, or have equations or unknowns in very small or large units.
@@ -62,11 +62,14 @@ TEST(mMatrix, viewsItsStorageRowByRow) {
     M(0, 0) = -30;
     EXPECT_EQ(outputOf([&] { mMatrix::print(M); }), "\t-30\t2\t3\n\t4\t5\t6\n");
     M.transpose();
+    M.swap_row(0, 1, 3); // no such column
     EXPECT_THAT(storage, ElementsAre(9, -30, 4, 2, 5, 3, 6));
     int row = 0;
     double pivot = 0;
     M.pivotI(row, pivot);
     EXPECT_TRUE(row == 0 && pivot == -30) << row << ' ' << pivot;
+    const mMatrix fresh;
+    EXPECT_TRUE(fresh.rows == 0 && fresh.cols == 0 && fresh.data == nullptr);
 }
 
 /// The upper left part of a matrix with rows of four.

@@ -1,5 +1,6 @@
 #include "mesh/bodyMesh.hpp"
 
+#include "mesh/panels.hpp"
 #include "numerics/matrixOp.hpp"
 
 #include <algorithm>
@@ -73,27 +74,11 @@ double bodyMesh::surfaceArea() const {
 }
 
 void bodyMesh::mirrorX() {
-    completeByMirror(&v3<float>::x);
+    sorvik::panelStore{faces, nFaces}.mirror(&v3<float>::x);
 }
 
 void bodyMesh::mirrorY() {
-    completeByMirror(&v3<float>::y);
-}
-
-void bodyMesh::completeByMirror(float v3<float>::*axis) {
-    const auto half = static_cast<std::size_t>(nFaces);
-    faces.reserve(2 * half);
-    for (std::size_t i = 0; i < half; ++i) {
-        v3<float> a = faces[i].vertexA;
-        v3<float> b = faces[i].vertexB;
-        v3<float> c = faces[i].vertexC;
-        a.*axis = -(a.*axis);
-        b.*axis = -(b.*axis);
-        c.*axis = -(c.*axis);
-        // The reversed order keeps the normal pointing outwards.
-        faces.emplace_back(a, c, b);
-    }
-    nFaces *= 2;
+    sorvik::panelStore{faces, nFaces}.mirror(&v3<float>::y);
 }
 
 std::vector<double> bodyMesh::shellInertia(double mass) const {

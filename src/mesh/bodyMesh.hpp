@@ -1,17 +1,17 @@
 #pragma once
 
+#include "mesh/panels.hpp"
 #include "mesh/triangle.hpp"
 #include "mesh/v3.hpp"
 
 #include <array>
-#include <iosfwd>
 #include <string>
 #include <vector>
 
 /// Hull surface of one floating body: panels, their placement, and the wetted part below a level.
 ///
 /// Lengths in m, z up. Panel geometry is single precision; placement and levels are double. A mesh
-/// without panels is valid. Degenerate panels are not looked for: their normals are not finite.
+/// without panels is valid. Panels without area are kept: their normals are not finite.
 class bodyMesh {
 public:
     std::string meshFile;             ///< as given to the constructor
@@ -21,20 +21,20 @@ public:
     /// The wetted surface: wholly submerged elements of `faces`, then all of `splitFaces`. Valid
     /// until the next cut, reading or mirroring.
     std::vector<triangle*> wetFaces;
-    std::vector<triangle*> dryFaces; ///< emptied by the cut, and not filled by it
-    v3<float> origin;                ///< the point that the mesh is placed by, in mesh coordinates
-    std::array<double, 3> position{};
-    std::array<double, 9> rotation{};       ///< applied to the panels, row-major
-    std::array<double, 9> targetRotation{}; ///< asked for with `setRotation`, row-major
+    std::vector<triangle*> dryFaces;  ///< emptied by the cut, and not filled by it
+    v3<float> origin;                 ///< the point that the mesh is placed by, in mesh coordinates
+    std::array<double, 3> position{}; ///< of the body, global x, y, z
+    std::array<double, 9> rotation{}; ///< applied to the panels, row-major
+    std::array<double, 9> targetRotation{}; ///< for the next `rotate`, row-major
     double totalArea = 0;                   ///< m², of all panels as constructed
 
     /// An empty mesh, every field zero.
     bodyMesh() = default;
-    /// Reads the file, moves the mesh so that the file's point `origin` becomes (0, 0, 0), places
-    /// it at `position` and cuts it at the global height `level`. Both vectors hold at least 3
-    /// values. An unsupported file name extension ends the process with status 1.
-    bodyMesh(std::string file, const std::vector<double>& origin,
-             const std::vector<double>& position, double level);
+    /// Reads the file, moves the mesh so that the file's point `meshOrigin` becomes (0, 0, 0),
+    /// places it at `bodyPosition` and cuts it at the global height `level` [m]. Both vectors hold
+    /// at least 3 values. An unsupported file name extension ends the process with status 1.
+    bodyMesh(std::string file, const std::vector<double>& meshOrigin,
+             const std::vector<double>& bodyPosition, double level);
     // The wetted surface points into the mesh that it belongs to.
     bodyMesh(const bodyMesh&) = delete;
     bodyMesh& operator=(const bodyMesh&) = delete;
@@ -44,30 +44,31 @@ public:
 
     // ---- Placement and sums (bodyMesh.cpp) ----
 
-    /// Takes over p[0..2].
+    /// Sets `position` to p[0..2] [m]. The panels move with `translate`.
     void setPosition(const double* p);
-    /// Takes over R[0..8] for the next `rotate`.
+    /// Sets `targetRotation` to R[0..8], a row-major 3 x 3 matrix. The panels turn with `rotate`.
     void setRotation(const double* R);
     /// Moves panels and sub-panels so that `origin` comes to `position`.
     void translate();
-    /// Turns the panels from `rotation` to `targetRotation`; the sub-panels wait for the next cut.
+    /// Turns the panels from `rotation` to `targetRotation`. Sub-panels stay until the next cut.
     void rotate();
     /// The area of all panels [m²].
     double surfaceArea() const;
     /// Completes a half hull that is symmetric about the plane x = 0 or y = 0.
     void mirrorX();
     void mirrorY();
-    /// Inertia matrix (row-major 3 x 3) of `mass` spread evenly over the panels, each taken as a
-    /// point mass at its centroid.
+    /// Inertia matrix (row-major 3 x 3, about the mesh's zero) of `mass` [kg] spread evenly over
+    /// the panels, each taken as a point mass at its centroid. Not finite if `totalArea` is 0.
     std::vector<double> shellInertia(double mass) const;
-    /// Says that it is not implemented, and gives `shellInertia`.
+    /// Not implemented: prints a warning and returns `shellInertia`.
     std::vector<double> volumeInertia(double mass) const;
-    /// Hydrostatic force and moment (F[0..2], F[3..5], resized to 6) on the wetted surface under a
-    /// free surface at the global height `elevation`; `factor` is water density times gravity.
+    /// Hydrostatic force [N] and moment [N m] about the mesh's zero (F[0..2] and F[3..5], resized
+    /// to 6) on the wetted surface, under a free surface at the global height `elevation` [m];
+    /// `factor` is water density times gravity [N/m³].
     void FroudeKrylovForces(const double& elevation, const double& factor,
                             std::vector<double>& F) const;
-    /// Global coordinates of the panel centroids: x, y, z per panel, or `blocked`, all x, all y,
-    /// all z.
+    /// Global coordinates of the panel centroids under `targetRotation` and `position`, 3 per
+    /// panel: x, y, z of each panel, or, if `blocked`, all x, then all y, then all z.
     void faceCentresGlobal(std::vector<double>& out, bool blocked) const;
 
     // ---- Waterline cut (bodyMesh_cut.cpp) ----
@@ -80,7 +81,8 @@ public:
     /// split.
     void updateWetSurface(const double& level);
 
-    // ---- Choice of the format (bodyMesh_format.cpp) ----
+    // ---- Files (bodyMesh_files.cpp); the headers of the formats say more ----
+    // A file that cannot be read is an empty one. Writers overwrite, and report nothing.
 
     /// 0 for STL, 1 for GDF, 2 for Nemoh, -1 otherwise, by the last four characters of the name,
     /// which are printed. A name that is shorter is a std::out_of_range.
@@ -88,61 +90,39 @@ public:
     /// Reads a mesh in the format of its name; false where something is wrong with it. An
     /// unsupported extension ends the process with status 1.
     bool read(const std::string& file);
-    /// Writes the mesh, or its wetted surface, in the format of the name; false where there is
-    /// none. Nemoh files always hold the wetted surface. The file that the mesh came from is kept
-    /// unless it can be replaced whole.
+    /// Writes the mesh, or its wetted surface, in the format of the name; false, after a warning,
+    /// for an unsupported extension. Nemoh files always hold the wetted surface. The file that the
+    /// mesh came from is kept unless it can be replaced whole.
     bool write(const std::string& file, bool wetOnly);
-
-    // ---- STL (bodyMesh_stl.cpp) ----
 
     /// Whether the file is to be read as binary: all but "solid" in its first and "facet" in its
     /// second line, both in small letters or capitals.
     static bool stl_isbinary(const std::string& file);
-    /// Appends the facets of a file; false where the stream did not end in a good state.
+    /// Appends the facets of a file; false where it breaks off.
     bool stl_read_ascii(const std::string& file);
     /// Replaces the panels by those of a file; false where it is shorter than it announces. A count
     /// beyond what memory can hold is fatal.
     bool stl_read(const std::string& file);
+    /// Writes all panels, or the wetted surface.
     void stl_print_ascii(const std::string& file, bool wetOnly) const;
     void stl_print(const std::string& file, bool wetOnly) const;
-    void stl_write(std::ostream& stream, bool wetOnly) const;
-
-    // ---- WAMIT GDF (bodyMesh_gdf.cpp) ----
 
     /// Appends the panels of a file and mirrors them where it says so; false where it holds fewer
     /// records than it announces.
     bool gdf_read(const std::string& file);
+    /// Writes all panels, or the wetted surface, with the length scale `ULEN` [m] and the gravity
+    /// `GRAV` [m/s²], which are not applied.
     void gdf_print(const std::string& file, bool wetOnly, double ULEN, double GRAV) const;
-    void gdf_write(std::ostream& stream, bool wetOnly, double ULEN, double GRAV) const;
-
-    // ---- Nemoh mesh (bodyMesh_nemoh.cpp) ----
 
     /// Adds the numbers of node and panel lines to the counters and returns the symmetry flag.
     static int nemoh_readMeshInfo(const std::string& file, int& nNodes, int& nPanels);
-    static int nemoh_countMesh(std::istream& stream, int& nNodes, int& nPanels);
     /// Appends the panels of a file, mirrors them where it says so, and returns `nFaces`. The line
     /// that ends the panels comes in as one more, of zero area at (0, 0, 0).
     int nemoh_read(const std::string& file);
     /// Writes the wetted surface, corners closer than 1e-5 merged, and returns the number of nodes.
     /// Warns unless `wetOnly`.
     int nemoh_print(const std::string& file, bool wetOnly) const;
-    /// The same to a stream, whose state tells whether it was written.
-    int nemoh_write(std::ostream& out) const;
 
 private:
-    void completeByMirror(float v3<float>::*axis);
-    void appendSplit(const triangle& panel, double cut);
-    /// Calls `use` with every panel that a writer is asked for, in order.
-    template <class Use>
-    void forChosen(bool wetOnly, Use use) const {
-        if (wetOnly) {
-            for (const triangle* panel : wetFaces) {
-                use(*panel);
-            }
-        } else {
-            for (const triangle& panel : faces) {
-                use(panel);
-            }
-        }
-    }
+    sorvik::panelView panels(bool wetOnly) const;
 };

@@ -22,9 +22,9 @@ public:
 
     /// The panel (-1, 0, 0), (1, 0, 0), (0, 1, 0) with its normal along z and an area of 1.
     triangle();
-    /// From 12 floats: normal, A, B, C, as in an STL facet. The normal is taken as given.
+    /// From p[0..11]: normal, A, B, C, as in an STL facet. The normal is taken as given.
     explicit triangle(const float* p);
-    /// From its corners; the normal follows from their order (right-hand rule).
+    /// From its corners [m]; the normal follows from their order (right-hand rule).
     triangle(const v3<float>& A, const v3<float>& B, const v3<float>& C);
     /// From its corners, with the normal taken as given.
     triangle(const v3<float>& n, const v3<float>& A, const v3<float>& B, const v3<float>& C);
@@ -35,13 +35,13 @@ public:
     void computeOP();
     /// Rebuilds all but the normal after the corners were moved; the normal stays the caller's.
     void update();
-    /// Moves the panel by minus `d`.
+    /// Moves the panel by minus `d` [m], which may be one of its own corners.
     void shift(v3<float> d);
     /// Applies the rotation R (9 doubles, row-major, x' = R x) to corners and normal.
     void rotate(const double* R);
     /// Replaces p by R p, in double, rounded to float.
     static void rotate(const double* R, v3<float>& p);
-    /// Replaces p by the transpose of R times p.
+    /// Replaces p by the transpose of R times p, in double, rounded to float.
     static void rotateT(const double* R, v3<float>& p);
 
 private:

@@ -14,11 +14,13 @@ struct v3 {
     T y = T(0);
     T z = T(0);
 
-    /// Outer product of this vector with `b`, row-major: M[3i + j] = this_i * b_j, formed in T and
-    /// widened. Added to M where `add` is set, else written. M has 9 entries; any other size ends
+    /// Outer product of this vector with `b`, row-major 3 x 3: M[3i + j] = this_i * b_j, formed in
+    /// T and widened. It is added to M if `add`, else overwrites it. A size of M other than 9 ends
     /// the process with status -1.
     void OP(const v3& b, std::vector<double>& M, bool add) const;
 };
+
+// Sums, differences and products with a number, by component.
 
 template <class T>
 v3<T> operator+(const v3<T>& a, const v3<T>& b) {
@@ -40,11 +42,13 @@ v3<T> operator/(const v3<T>& a, T s) {
     return {a.x / s, a.y / s, a.z / s};
 }
 
+/// The cross product of a and b.
 template <class T>
 v3<T> cross(const v3<T>& a, const v3<T>& b) {
     return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
 }
 
+/// The Euclidean length of a.
 template <class T>
 T length(const v3<T>& a) {
     return std::sqrt(a.x * a.x + a.y * a.y + a.z * a.z);

@@ -3,6 +3,7 @@
 #include "base/files.hpp"
 #include "io/sorvikIO.hpp"
 #include "mesh/bodyMesh.hpp"
+#include "mesh/nemohFormat.hpp"
 #include "nemoh/nemohIO.hpp"
 
 #include <filesystem>
@@ -91,7 +92,7 @@ failure placeMesh(const bodySettings& settings, const std::string& folder, proje
     mesh.updateWetSurface(cutLevel);
     const std::string target = folder + "/" + wetted.name;
     std::ofstream out = sorvik::files::create(target);
-    wetted.points = out.is_open() ? mesh.nemoh_write(out) : 0;
+    wetted.points = out.is_open() ? sorvik::nemohMesh::write(out, mesh.wetFaces) : 0;
     out.close();
     wetted.panels = static_cast<int>(mesh.wetFaces.size());
     return out ? failure() : fatal("Cannot write meshfile " + target);
@@ -128,7 +129,7 @@ failure keepMesh(const bodySettings& settings, const std::string& folder, projec
         return fatal("Cannot write meshfile " + target);
     }
     std::ifstream copy = sorvik::files::open(target);
-    bodyMesh::nemoh_countMesh(copy, kept.points, kept.panels);
+    sorvik::nemohMesh::count(copy, kept.points, kept.panels);
     const bool wasRead = copy.is_open() && !copy.bad();
     return wasRead ? failure() : fatal("Cannot read meshfile " + target);
 }

@@ -1,10 +1,8 @@
-#include "mesh/bodyMesh.hpp"
+#include "mesh/nemohFormat.hpp"
 
-#include "base/files.hpp"
 #include "mesh/nodeMatcher.hpp"
 #include "mesh/pointText.hpp"
 
-#include <iostream>
 #include <map>
 
 //     2 0              a marker, and 1 for half a hull that is symmetric about y = 0
@@ -13,6 +11,7 @@
 //     1 2 3 1          panels: four node numbers; those of a triangle end with the first
 //     0 0 0 0          their end, which is itself read as a panel
 
+namespace sorvik::nemohMesh {
 namespace {
 
 /// Node coordinates by number. Most files number their nodes 1, 2, 3, ...: these lie in an array.
@@ -46,7 +45,7 @@ private:
 };
 
 /// Reads the two header numbers and the first node number; returns the symmetry flag.
-int readHeader(sorvik::textScanner& in, int& firstNode) {
+int readHeader(textScanner& in, int& firstNode) {
     int marker = 0;
     int symmetry = 0;
     in.read(marker);
@@ -56,20 +55,20 @@ int readHeader(sorvik::textScanner& in, int& firstNode) {
 }
 
 /// Reads the nodes from number `first` on, and the line that ends them.
-nodeList readNodes(sorvik::textScanner& in, int first) {
+nodeList readNodes(textScanner& in, int first) {
     nodeList nodes;
     int number = first;
     while (in.good() && number >= 1) {
-        nodes.set(number, sorvik::readPoint(in));
+        nodes.set(number, readPoint(in));
         in.read(number);
     }
-    sorvik::readPoint(in);
+    readPoint(in);
     return nodes;
 }
 
-void readPanels(sorvik::textScanner& in, const nodeList& nodes, std::vector<triangle>& faces) {
+void readPanels(textScanner& in, const nodeList& nodes, std::vector<triangle>& faces) {
     for (;;) {
-        // The end of line behind the last panel begins no other.
+        // The end of line after the last panel begins no other.
         in.skipSpace();
         in.peek();
         if (!in.good()) {
@@ -90,13 +89,8 @@ void readPanels(sorvik::textScanner& in, const nodeList& nodes, std::vector<tria
 
 } // namespace
 
-int bodyMesh::nemoh_readMeshInfo(const std::string& file, int& nNodes, int& nPanels) {
-    std::ifstream stream = sorvik::files::open(file);
-    return nemoh_countMesh(stream, nNodes, nPanels);
-}
-
-int bodyMesh::nemoh_countMesh(std::istream& stream, int& nNodes, int& nPanels) {
-    sorvik::textScanner in(stream);
+int count(std::istream& stream, int& nNodes, int& nPanels) {
+    textScanner in(stream);
     int number = 0;
     const int symmetry = readHeader(in, number);
     while (in.good() && number >= 1) {
@@ -105,8 +99,8 @@ int bodyMesh::nemoh_countMesh(std::istream& stream, int& nNodes, int& nPanels) {
         in.read(number);
     }
     in.skipLine();
-    // A panel line is any line up to the first that begins with 0; one that the file breaks off in
-    // is none.
+    // Every line counts as a panel up to the first that begins with 0. A last line without an end
+    // does not count.
     for (bool isEnd = in.peek() == '0'; in.good() && !isEnd; isEnd = in.peek() == '0') {
         in.skipLine();
         nPanels += in.good() ? 1 : 0;
@@ -114,34 +108,25 @@ int bodyMesh::nemoh_countMesh(std::istream& stream, int& nNodes, int& nPanels) {
     return symmetry;
 }
 
-int bodyMesh::nemoh_read(const std::string& file) {
-    std::ifstream stream = sorvik::files::open(file);
-    sorvik::textScanner in(stream);
+bool read(std::istream& stream, panelStore panels) {
+    textScanner in(stream);
     int firstNode = 0;
     const int symmetry = readHeader(in, firstNode);
     const nodeList nodes = readNodes(in, firstNode);
-    readPanels(in, nodes, faces);
-    nFaces = static_cast<int>(faces.size());
+    readPanels(in, nodes, panels.faces);
+    panels.nFaces = static_cast<int>(panels.faces.size());
     if (symmetry == 1) {
-        mirrorY();
+        panels.mirror(&v3<float>::y);
     }
-    return nFaces;
+    return panels.nFaces != 0;
 }
 
-int bodyMesh::nemoh_print(const std::string& file, bool wetOnly) const {
-    if (!wetOnly) {
-        std::cout << " Warning: Nemoh mesh only supports wetFaces to be printed." << std::endl;
-    }
-    std::ofstream stream = sorvik::files::create(file);
-    return nemoh_write(stream);
-}
-
-int bodyMesh::nemoh_write(std::ostream& stream) const {
-    sorvik::nodeMatcher matcher(wetFaces.size());
-    for (const triangle* panel : wetFaces) {
-        matcher.addPanel(panel->vertexA, panel->vertexB, panel->vertexC);
-    }
-    sorvik::textWriter out(stream);
+int write(std::ostream& stream, const panelView& panels) {
+    nodeMatcher matcher(static_cast<std::size_t>(panels.count()));
+    panels.forEach([&](const triangle& panel) {
+        matcher.addPanel(panel.vertexA, panel.vertexB, panel.vertexC);
+    });
+    textWriter out(stream);
     out << "2 0\n";
     int number = 0;
     for (const v3<float>& node : matcher.nodes()) {
@@ -156,3 +141,5 @@ int bodyMesh::nemoh_write(std::ostream& stream) const {
     out << "0 0 0 0\n";
     return number;
 }
+
+} // namespace sorvik::nemohMesh

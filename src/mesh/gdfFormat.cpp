@@ -1,6 +1,5 @@
-#include "mesh/bodyMesh.hpp"
+#include "mesh/gdfFormat.hpp"
 
-#include "base/files.hpp"
 #include "mesh/pointText.hpp"
 
 #include <iostream>
@@ -11,6 +10,7 @@
 //     NPAN             number of panels
 //     x y z x y z x y z x y z       a panel: its four corners, on any number of lines
 
+namespace sorvik::gdf {
 namespace {
 
 struct gdfHeader {
@@ -19,7 +19,7 @@ struct gdfHeader {
     int panels = 0;
 };
 
-gdfHeader readHeader(sorvik::textScanner& in) {
+gdfHeader readHeader(textScanner& in) {
     gdfHeader header;
     double unused = 0;
     in.skipLine();
@@ -35,13 +35,13 @@ gdfHeader readHeader(sorvik::textScanner& in) {
 
 /// Appends the panels of the records in odd places, each as the triangle of its first three
 /// corners; those in even places make none. Returns the number of whole records read.
-int readPanels(sorvik::textScanner& in, int announced, std::vector<triangle>& faces) {
+int readPanels(textScanner& in, int announced, std::vector<triangle>& faces) {
     int records = 0;
     while (records < announced && in.good()) {
-        const v3<float> a = sorvik::readPoint(in);
-        const v3<float> b = sorvik::readPoint(in);
-        const v3<float> c = sorvik::readPoint(in);
-        sorvik::readPoint(in);
+        const v3<float> a = readPoint(in);
+        const v3<float> b = readPoint(in);
+        const v3<float> c = readPoint(in);
+        readPoint(in);
         if (in.failed()) {
             break;
         }
@@ -55,43 +55,39 @@ int readPanels(sorvik::textScanner& in, int announced, std::vector<triangle>& fa
 
 } // namespace
 
-bool bodyMesh::gdf_read(const std::string& file) {
-    std::cout << " READING GDF FILE " << file << " IN ASCII FORMAT " << std::endl;
-    std::ifstream stream = sorvik::files::open(file);
-    sorvik::textScanner in(stream);
-    const gdfHeader header = readHeader(in);
-    const bool hasHeader = !in.failed();
-    const int records = hasHeader ? readPanels(in, header.panels, faces) : 0;
+bool read(std::istream& in, const std::string& name, panelStore panels) {
+    std::cout << " READING GDF FILE " << name << " IN ASCII FORMAT " << std::endl;
+    textScanner text(in);
+    const gdfHeader header = readHeader(text);
+    const bool hasHeader = !text.failed();
+    const int records = hasHeader ? readPanels(text, header.panels, panels.faces) : 0;
 
     // A record in an odd place counts as one triangle, one in an even place as two.
     const int triangles = records + records / 2;
-    nFaces = 2 * records - triangles;
+    panels.nFaces = 2 * records - triangles;
     std::cout << " Read " << records << " panels, out of which " << triangles
-              << " were triangles. Generated " << nFaces << " triangles." << std::endl;
+              << " were triangles. Generated " << panels.nFaces << " triangles." << std::endl;
     if (header.symmetricX == 1) {
-        mirrorX();
+        panels.mirror(&v3<float>::x);
     }
     if (header.symmetricY == 1) {
-        mirrorY();
+        panels.mirror(&v3<float>::y);
     }
-    std::cout << " GDF FILE READ COMPLETE. A total of  " << nFaces << " triangles generated "
+    std::cout << " GDF FILE READ COMPLETE. A total of  " << panels.nFaces << " triangles generated "
               << std::endl;
     return hasHeader && records == header.panels;
 }
 
-void bodyMesh::gdf_print(const std::string& file, bool wetOnly, double ULEN, double GRAV) const {
-    std::ofstream stream = sorvik::files::create(file);
-    gdf_write(stream, wetOnly, ULEN, GRAV);
-}
-
-void bodyMesh::gdf_write(std::ostream& stream, bool wetOnly, double ULEN, double GRAV) const {
-    sorvik::textWriter out(stream);
+void write(std::ostream& stream, const panelView& panels, double ULEN, double GRAV) {
+    textWriter out(stream);
     out << " WAMIT FILE FORMAT FROM TRIANGULAR STL-STYLE MESH \n";
     out << ULEN << ' ' << GRAV << "\t ULEN GRAV\n";
     out << "0 0\t ISX ISY\n";
-    out << (wetOnly ? static_cast<int>(wetFaces.size()) : nFaces) << '\n';
-    forChosen(wetOnly, [&](const triangle& panel) {
+    out << panels.count() << '\n';
+    panels.forEach([&](const triangle& panel) {
         out << panel.vertexA << ' ' << panel.vertexB << ' ' << panel.vertexC << ' ' << panel.vertexA
             << '\n';
     });
 }
+
+} // namespace sorvik::gdf

@@ -1,6 +1,5 @@
-#include "mesh/bodyMesh.hpp"
+#include "mesh/stlFormat.hpp"
 
-#include "base/files.hpp"
 #include "base/littleEndian.hpp"
 #include "base/memory.hpp"
 #include "io/printer.hpp"
@@ -9,9 +8,9 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
-#include <filesystem>
 #include <iostream>
 #include <limits>
+#include <string_view>
 
 // Binary, little-endian: 80 bytes of header, the number of facets in 4 bytes, 50 bytes a facet:
 // normal, A, B, C (12 floats) and 2 bytes of attribute.
@@ -25,6 +24,7 @@
 //         endsolid NAME
 // Keywords are not checked: any word stands for any other. White space is free.
 
+namespace sorvik::stl {
 namespace {
 
 constexpr std::size_t headerSize = 80;
@@ -46,8 +46,7 @@ constexpr std::size_t panelMemory = sizeof(triangle) + 9 * sizeof(double) + 16 +
 triangle loadFacet(const char* record) {
     float values[floatsPerFacet];
     for (std::size_t i = 0; i < floatsPerFacet; ++i) {
-        const std::uint32_t word =
-            sorvik::littleEndian::load<std::uint32_t>(record + i * sizeof(float));
+        const std::uint32_t word = littleEndian::load<std::uint32_t>(record + i * sizeof(float));
         std::memcpy(values + i, &word, sizeof word);
     }
     return triangle(values);
@@ -57,7 +56,7 @@ char* storeVector(char* bytes, const v3<float>& v) {
     for (const float value : {v.x, v.y, v.z}) {
         std::uint32_t word = 0;
         std::memcpy(&word, &value, sizeof word);
-        sorvik::littleEndian::store(bytes, word);
+        littleEndian::store(bytes, word);
         bytes += sizeof word;
     }
     return bytes;
@@ -117,8 +116,8 @@ void readFacets(std::istream& in, std::size_t count, std::vector<triangle>& face
     }
 }
 
-/// Reads three floats behind a keyword of `words` words.
-void readVector(sorvik::textScanner& in, int words, float* values) {
+/// Reads three floats after a keyword of `words` words.
+void readVector(textScanner& in, int words, float* values) {
     for (int i = 0; i < words; ++i) {
         in.skipWord();
     }
@@ -128,7 +127,7 @@ void readVector(sorvik::textScanner& in, int words, float* values) {
     in.skipSpace();
 }
 
-triangle readFacet(sorvik::textScanner& in) {
+triangle readFacet(textScanner& in) {
     float values[floatsPerFacet] = {};
     readVector(in, 2, values);
     in.skipLine();
@@ -141,25 +140,40 @@ triangle readFacet(sorvik::textScanner& in) {
     return triangle(values);
 }
 
-/// Makes room for the facets that the rest of the file will hold, if they take as much text as
-/// those before them.
-void reserveForRest(const std::string& file, std::size_t textRead, std::vector<triangle>& faces) {
-    std::error_code failed;
-    const auto size = std::filesystem::file_size(file, failed);
-    if (!failed && size > textRead) {
+/// Whether a stream can return to a place that it gave: a pipe gives none, nor what has failed.
+bool isPlace(std::istream::pos_type place) {
+    return place != std::istream::pos_type(-1);
+}
+
+/// The length of what can be rewound, 0 for what cannot. The stream stays where it is.
+std::size_t lengthOf(std::istream& in) {
+    const auto here = in.tellg();
+    if (!isPlace(here)) {
+        return 0;
+    }
+    in.seekg(0, std::ios::end);
+    const auto end = in.tellg();
+    in.seekg(here);
+    return end > here ? static_cast<std::size_t>(end - here) : 0;
+}
+
+/// Makes room for the facets of a text of `length` characters, if the rest take as many of them as
+/// those in the first `textRead`.
+void reserveForRest(std::size_t length, std::size_t textRead, std::vector<triangle>& faces) {
+    if (length > textRead) {
         const std::size_t perFacet = textRead / faces.size();
-        sorvik::memory::reserve(faces, static_cast<std::size_t>(size) / perFacet + faces.size());
+        memory::reserve(faces, length / perFacet + faces.size());
     }
 }
 
 /// Whether the next line begins a facet: an F, small or capital.
-bool isFacetNext(sorvik::textScanner& in) {
+bool isFacetNext(textScanner& in) {
     constexpr int lowerCaseBit = 0x20;
     const int next = in.peek();
     return in.good() && (next & ~lowerCaseBit) == 'F';
 }
 
-void writeFacet(sorvik::textWriter& out, const triangle& panel) {
+void writeFacet(textWriter& out, const triangle& panel) {
     out << "\tfacet normal " << panel.normal << "\n\t\touter loop\n";
     for (auto corner : {&triangle::vertexA, &triangle::vertexB, &triangle::vertexC}) {
         out << "\t\t\tvertex " << panel.*corner << '\n';
@@ -167,82 +181,102 @@ void writeFacet(sorvik::textWriter& out, const triangle& panel) {
     out << "\t\tendloop\n\tendfacet\n";
 }
 
-bool holdsWord(const std::string& line, const char* small, const char* capital) {
-    return line.find(small) != std::string::npos || line.find(capital) != std::string::npos;
+/// Words of five letters as numbers, so that a line of any length can be searched as it is read.
+using word = std::uint64_t;
+
+constexpr word append(word last, char letter) {
+    constexpr word fiveLetters = 0xFFFFFFFFFFU;
+    return (last << 8 | static_cast<unsigned char>(letter)) & fiveLetters;
+}
+
+constexpr word wordOf(std::string_view letters) {
+    word last = 0;
+    for (const char letter : letters) {
+        last = append(last, letter);
+    }
+    return last;
+}
+
+/// Reads a line and returns whether it holds one of two words.
+bool lineHolds(std::istream& in, word small, word capital) {
+    bool isFound = false;
+    word last = 0;
+    for (char c = 0; in.get(c) && c != '\n';) {
+        last = append(last, c);
+        isFound = isFound || last == small || last == capital;
+    }
+    return isFound;
 }
 
 } // namespace
 
-bool bodyMesh::stl_isbinary(const std::string& file) {
-    std::ifstream in = sorvik::files::open(file);
-    std::string line;
-    std::getline(in, line);
-    if (!holdsWord(line, "solid", "SOLID")) {
-        return true;
+bool isBinary(std::istream& in) {
+    const auto start = in.tellg();
+    const bool isText = lineHolds(in, wordOf("solid"), wordOf("SOLID")) &&
+                        lineHolds(in, wordOf("facet"), wordOf("FACET"));
+    if (isPlace(start)) {
+        in.clear();
+        in.seekg(start);
     }
-    // Where there is no second line, reading one leaves the first.
-    return !std::getline(in, line) || !holdsWord(line, "facet", "FACET");
+    return !isText;
 }
 
-bool bodyMesh::stl_read_ascii(const std::string& file) {
-    std::cout << " READING STL FILE " << file << " IN ASCII FORMAT " << std::endl;
-    std::ifstream stream = sorvik::files::open(file);
-    sorvik::textScanner in(stream);
-    in.skipLine();
+bool readAscii(std::istream& in, const std::string& name, panelStore panels) {
+    std::cout << " READING STL FILE " << name << " IN ASCII FORMAT " << std::endl;
+    const std::size_t length = lengthOf(in);
+    textScanner text(in);
+    text.skipLine();
     int count = 0;
-    if (in.good()) {
+    if (text.good()) {
         // `nFaces` is that of an earlier read: only a mesh that is full already is left alone.
-        while (nFaces <= mostPanels) {
-            faces.push_back(readFacet(in));
+        while (panels.nFaces <= mostPanels) {
+            panels.faces.push_back(readFacet(text));
             if (++count == facetsToGoBy) {
-                reserveForRest(file, in.position(), faces);
+                reserveForRest(length, text.position(), panels.faces);
             }
-            if (!isFacetNext(in)) {
+            if (!isFacetNext(text)) {
                 break;
             }
         }
     }
-    nFaces = count;
+    panels.nFaces = count;
     std::cout << " Read " << count << " triangles in mesh" << std::endl;
-    return in.good();
+    return text.good();
 }
 
-bool bodyMesh::stl_read(const std::string& file) {
-    std::ifstream in = sorvik::files::open(file);
+bool readBinary(std::istream& in, const std::string& name, panelStore panels) {
     char head[headerSize + countSize] = {};
     in.read(head, sizeof head);
-    const std::uint32_t count = sorvik::littleEndian::load<std::uint32_t>(head + headerSize);
+    const auto count = littleEndian::load<std::uint32_t>(head + headerSize);
     if (count > std::uint32_t(std::numeric_limits<int>::max()) ||
-        !sorvik::memory::canHold(count, panelMemory)) {
-        printer::fatalError(file + " announces " + std::to_string(count) +
+        !memory::canHold(count, panelMemory)) {
+        printer::fatalError(name + " announces " + std::to_string(count) +
                             " facets, more than memory can hold.");
     }
-    faces.clear();
-    sorvik::memory::reserve(faces, count);
-    readFacets(in, count, faces);
-    nFaces = static_cast<int>(count);
+    panels.faces.clear();
+    memory::reserve(panels.faces, count);
+    readFacets(in, count, panels.faces);
+    panels.nFaces = static_cast<int>(count);
     return in.good();
 }
 
-void bodyMesh::stl_print_ascii(const std::string& file, bool wetOnly) const {
-    std::ofstream stream = sorvik::files::create(file);
-    sorvik::textWriter out(stream);
+bool read(std::istream& in, const std::string& name, panelStore panels) {
+    return isBinary(in) ? readBinary(in, name, panels) : readAscii(in, name, panels);
+}
+
+void writeAscii(std::ostream& stream, const panelView& panels) {
+    textWriter out(stream);
     out << "solid OBJECT\n";
-    forChosen(wetOnly, [&](const triangle& panel) { writeFacet(out, panel); });
+    panels.forEach([&](const triangle& panel) { writeFacet(out, panel); });
     out << "endsolid OBJECT\n";
 }
 
-void bodyMesh::stl_print(const std::string& file, bool wetOnly) const {
-    std::ofstream stream = sorvik::files::create(file);
-    stl_write(stream, wetOnly);
-}
-
-void bodyMesh::stl_write(std::ostream& stream, bool wetOnly) const {
+void write(std::ostream& stream, const panelView& panels) {
     char head[headerSize + countSize] = {};
-    sorvik::littleEndian::store(head + headerSize, wetOnly
-                                                       ? static_cast<std::uint32_t>(wetFaces.size())
-                                                       : std::uint32_t(nFaces));
+    littleEndian::store(head + headerSize, static_cast<std::uint32_t>(panels.count()));
     stream.write(head, sizeof head);
     facetWriter out(stream);
-    forChosen(wetOnly, [&](const triangle& panel) { out.write(panel); });
+    panels.forEach([&](const triangle& panel) { out.write(panel); });
 }
+
+} // namespace sorvik::stl

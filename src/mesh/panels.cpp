@@ -1,0 +1,20 @@
+#include "mesh/panels.hpp"
+
+namespace sorvik {
+
+void panelStore::mirror(float v3<float>::*axis) const {
+    const auto half = static_cast<std::size_t>(nFaces);
+    faces.reserve(2 * half);
+    for (std::size_t i = 0; i < half; ++i) {
+        v3<float> a = faces[i].vertexA;
+        v3<float> b = faces[i].vertexB;
+        v3<float> c = faces[i].vertexC;
+        a.*axis = -(a.*axis);
+        b.*axis = -(b.*axis);
+        c.*axis = -(c.*axis);
+        faces.emplace_back(a, c, b);
+    }
+    nFaces *= 2;
+}
+
+} // namespace sorvik

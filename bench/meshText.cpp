@@ -142,8 +142,8 @@ void streamWriteNemoh(const std::string& file, const bodyMesh& mesh) {
     std::ofstream out(file);
     out << "2 0\n";
     int number = 0;
-    for (const v3<float>& node : matcher.nodes()) {
-        out << ++number << ' ' << node << '\n';
+    for (const auto& node : matcher.nodes()) {
+        out << ++number << ' ' << node.place << '\n';
     }
     out << "0 0. 0. 0.\n";
     for (std::size_t i = 0; i < matcher.corners().size(); i += 3) {

@@ -129,8 +129,8 @@ int write(std::ostream& stream, const panelView& panels) {
     textWriter out(stream);
     out << "2 0\n";
     int number = 0;
-    for (const v3<float>& node : matcher.nodes()) {
-        out << ++number << ' ' << node << '\n';
+    for (const auto& node : matcher.nodes()) {
+        out << ++number << ' ' << node.place << '\n';
     }
     out << "0 0. 0. 0.\n";
     const std::vector<int>& corners = matcher.corners();

@@ -73,9 +73,8 @@ nodeMatcher::nodeMatcher(std::size_t panels) {
         size *= 2;
     }
     buckets_.resize(size);
-    allNodes_.reserve(panels / 2);
-    links_.reserve(panels / 2);
-    allCorners_.reserve(3 * panels);
+    nodes_.reserve(panels / 2);
+    corners_.reserve(3 * panels);
 }
 
 void nodeMatcher::addPanel(const v3<float>& a, const v3<float>& b, const v3<float>& c) {
@@ -86,12 +85,12 @@ void nodeMatcher::addPanel(const v3<float>& a, const v3<float>& b, const v3<floa
     }
     for (int i = 0; i < 3; ++i) {
         if (found[i] == 0) {
-            // A node of this very panel in front of it would be the lower match of later corners.
+            // A node of the same panel before it is the lower match of later corners.
             const bool isShadowed = std::any_of(
                 points, points + i, [&](const v3<float>& p) { return isNear(points[i], p); });
             found[i] = add(points[i], !isShadowed);
         }
-        allCorners_.push_back(found[i]);
+        corners_.push_back(found[i]);
     }
 }
 
@@ -100,8 +99,8 @@ int nodeMatcher::find(const v3<float>& p) const {
     if (!isFinite(p)) {
         return 0;
     }
-    for (int n = buckets_[bucketOf(p)]; n != 0; n = nextOf(n)) {
-        if (isLowest(n) && isSame(p, at(n))) {
+    for (int n = buckets_[bucketOf(p)]; n != 0; n = at(n).previous) {
+        if (at(n).isFirstMatch && isSame(p, at(n).place)) {
             return n;
         }
     }
@@ -119,37 +118,36 @@ int nodeMatcher::find(const v3<float>& p) const {
 
 int nodeMatcher::lowestIn(std::size_t bucket, const v3<float>& p) const {
     int lowest = 0;
-    for (int n = buckets_[bucket]; n != 0; n = nextOf(n)) {
-        if (isNear(p, at(n))) {
+    for (int n = buckets_[bucket]; n != 0; n = at(n).previous) {
+        if (isNear(p, at(n).place)) {
             lowest = lower(lowest, n);
         }
     }
     return lowest;
 }
 
-/// Adds a node; `lowest` says that no lower one is near it.
-int nodeMatcher::add(const v3<float>& p, bool lowest) {
-    allNodes_.push_back(p);
-    links_.push_back(lowest ? 1 : 0);
-    const auto node = static_cast<int>(allNodes_.size());
-    if (allNodes_.size() <= buckets_.size()) {
-        putInBucket(node);
-        return node;
+/// Adds a node and returns its number.
+int nodeMatcher::add(const v3<float>& p, bool isFirstMatch) {
+    nodes_.emplace_back(p, isFirstMatch);
+    const auto latest = static_cast<int>(nodes_.size());
+    if (nodes_.size() <= buckets_.size()) {
+        putInBucket(latest);
+        return latest;
     }
     buckets_.assign(2 * buckets_.size(), 0);
-    for (int n = 1; n <= node; ++n) {
-        links_[static_cast<std::size_t>(n) - 1] %= 2;
-        putInBucket(n);
+    for (int number = 1; number <= latest; ++number) {
+        putInBucket(number);
     }
-    return node;
+    return latest;
 }
 
 /// Nothing is near a node that is not finite: it is in no bucket.
-void nodeMatcher::putInBucket(int node) {
-    if (isFinite(at(node))) {
-        int& latest = buckets_[bucketOf(at(node))];
-        links_[static_cast<std::size_t>(node) - 1] += 2 * latest;
-        latest = node;
+void nodeMatcher::putInBucket(int number) {
+    node& added = nodes_[static_cast<std::size_t>(number) - 1];
+    if (isFinite(added.place)) {
+        int& latest = buckets_[bucketOf(added.place)];
+        added.previous = latest;
+        latest = number;
     }
 }
 

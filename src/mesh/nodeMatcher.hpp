@@ -26,27 +26,34 @@ public:
     /// are matched with the nodes of earlier panels only, never with each other.
     void addPanel(const v3<float>& a, const v3<float>& b, const v3<float>& c);
 
-    /// Node coordinates in the order of their numbers.
-    const std::vector<v3<float>>& nodes() const { return allNodes_; }
+    /// A node in the hash of nodes.
+    struct node {
+        v3<float> place;
+        /// The number of the node before it in its bucket, or 0.
+        int previous = 0;
+        /// Whether no node of a lower number is near it, so that it is the match of its own place.
+        bool isFirstMatch;
+
+        // Built where it stays: copying one that has just been put together is slow.
+        node(const v3<float>& p, bool isFirst) : place(p), isFirstMatch(isFirst) {}
+    };
+
+    /// Nodes in the order of their numbers.
+    const std::vector<node>& nodes() const { return nodes_; }
     /// Node numbers, three a panel.
-    const std::vector<int>& corners() const { return allCorners_; }
+    const std::vector<int>& corners() const { return corners_; }
 
 private:
     int find(const v3<float>& p) const;
     int lowestIn(std::size_t bucket, const v3<float>& p) const;
-    int add(const v3<float>& p, bool lowest);
-    void putInBucket(int node);
+    int add(const v3<float>& p, bool isFirstMatch);
+    void putInBucket(int number);
     std::size_t bucketOf(double x, double y, double z) const;
     std::size_t bucketOf(const v3<float>& p) const;
-    int nextOf(int node) const { return links_[static_cast<std::size_t>(node) - 1] / 2; }
-    bool isLowest(int node) const { return links_[static_cast<std::size_t>(node) - 1] % 2 != 0; }
-    const v3<float>& at(int node) const { return allNodes_[static_cast<std::size_t>(node) - 1]; }
+    const node& at(int number) const { return nodes_[static_cast<std::size_t>(number) - 1]; }
 
-    std::vector<v3<float>> allNodes_;
-    /// By node: twice the node before it in its bucket (0: none), plus 1 where no lower node is
-    /// near it, so that it is the match of its own coordinates.
-    std::vector<int> links_;
-    std::vector<int> allCorners_;
+    std::vector<node> nodes_;
+    std::vector<int> corners_;
     /// The latest node of each bucket, or 0. A bucket holds the nodes of one cell, and now and then
     /// of others; a power of two of them, at least as many as nodes.
     std::vector<int> buckets_;

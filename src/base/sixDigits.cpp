@@ -8,18 +8,36 @@
 #include <cstdint>
 #include <cstring>
 
+// Digits. A power of ten, which a double holds exactly up to 1e22, scales the number into [1e5,
+// 1e6) with one rounding. The nearest integer then is the six digits, unless the scaled number lies
+// so near to a half that its error, or what the caller allows for, could round it the other way.
+// Such numbers, a few in a thousand million, and those out of range go to std::to_chars, which is
+// right for all. A fast way that knows when it may be wrong: F. Loitsch, Printing floating-point
+// numbers quickly and accurately with integers, 2010.
+//
+// Layout. The digits are two triples from tables, joined in one 64-bit number with the first
+// character in the lowest byte. The point is put in by moving the digits behind it up by a byte,
+// and trailing zeros are cut off by the length.
+
 namespace sorvik {
 
 namespace {
 
 constexpr double powersOfTen[] = {1e-4, 1e-3, 1e-2, 1e-1, 1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6};
 constexpr int firstExponent = -4;
+/// A number with all its six digits before the point is scaled by 1.
+constexpr int unscaledExponent = 5;
+/// Integers of six digits are those from `sixDigitsBegin` to below `sixDigitsEnd`.
+constexpr std::int32_t sixDigitsBegin = 100'000;
+constexpr std::int32_t sixDigitsEnd = 1'000'000;
+/// There are so many triples of digits.
+constexpr std::uint32_t tripleCount = 1000;
 /// Decades from 1e-4 to 1e6, between two for the magnitudes around them that share a power of two
 /// with them: they allow nothing.
 constexpr std::size_t firstDecade = 1;
 constexpr std::size_t lastDecade = 10;
 constexpr std::size_t decadeCount = 12;
-/// More than the rounding error of a scaled value, 2^-34, and of the sum that rounds it.
+/// More than the rounding error of a scaled value, 2^-34 below 2^20, and of the sum that rounds it.
 constexpr double scalingError = 1e-9;
 /// A number rounds to the integer below the sum; where that is not the nearest, it is in doubt.
 constexpr double half = 0.5;
@@ -46,7 +64,7 @@ constexpr std::array<decade, decadeCount> makeDecades() {
     for (std::size_t i = firstDecade; i <= lastDecade; ++i) {
         decade& d = decades[i];
         const int exponent = firstExponent + static_cast<int>(i - firstDecade);
-        for (int power = exponent; power < 5; ++power) {
+        for (int power = exponent; power < unscaledExponent; ++power) {
             d.scale *= 10;
         }
         if (exponent < 0) {
@@ -111,22 +129,22 @@ constexpr margins marginsOf(double bound) {
 constexpr margins exactMargins = marginsOf(0.0);
 
 /// The digits of 0 to 999, the first in the lowest byte.
-constexpr std::array<std::uint32_t, 1000> makeTriples() {
-    std::array<std::uint32_t, 1000> triples{};
+constexpr std::array<std::uint32_t, tripleCount> makeTriples() {
+    std::array<std::uint32_t, tripleCount> triples{};
     for (std::uint32_t i = 0; i < triples.size(); ++i) {
         triples[i] = ('0' + i / 100) | ('0' + i / 10 % 10) << 8 | ('0' + i % 10) << 16;
     }
     return triples;
 }
 
-constexpr std::array<std::uint32_t, 1000> triples = makeTriples();
+constexpr std::array<std::uint32_t, tripleCount> triples = makeTriples();
 
 constexpr unsigned countShift = 56;
 
 /// The same as last three of six digits, and in the highest byte how many of the three are left
 /// without trailing zeros.
-constexpr std::array<std::uint64_t, 1000> makeLastTriples() {
-    std::array<std::uint64_t, 1000> last{};
+constexpr std::array<std::uint64_t, tripleCount> makeLastTriples() {
+    std::array<std::uint64_t, tripleCount> last{};
     for (std::size_t i = 0; i < last.size(); ++i) {
         const std::uint64_t count = i % 10 != 0 ? 3 : i % 100 != 0 ? 2 : i != 0 ? 1 : 0;
         last[i] = std::uint64_t(triples[i]) << 24 | count << countShift;
@@ -134,12 +152,12 @@ constexpr std::array<std::uint64_t, 1000> makeLastTriples() {
     return last;
 }
 
-constexpr std::array<std::uint64_t, 1000> lastTriples = makeLastTriples();
+constexpr std::array<std::uint64_t, tripleCount> lastTriples = makeLastTriples();
 
 /// Writes six digits as `d` lays them out, without trailing zeros behind the point.
 inline char* layOut(char* out, std::uint32_t number, const decade& d) {
-    const std::uint32_t high = number / 1000;
-    const std::uint64_t last = lastTriples[number % 1000];
+    const std::uint32_t high = number / tripleCount;
+    const std::uint64_t last = lastTriples[number % tripleCount];
     const std::uint64_t digits = triples[high] | last;
     auto count = static_cast<std::size_t>(last >> countShift) + 3;
     if (count == 3) {
@@ -153,8 +171,10 @@ inline char* layOut(char* out, std::uint32_t number, const decade& d) {
 
 /// Writes `value` if its margin allows; otherwise, and outside the decades, returns nullptr.
 [[gnu::always_inline]] inline char* writeWithin(const margins& limits, char* out, double value) {
+    // Of a double: the bits below its exponent, and what is added to that.
     constexpr int mantissaBits = 52;
-    constexpr std::uint64_t firstBiased = 1023 + firstBinaryExponent;
+    constexpr int exponentBias = 1023;
+    constexpr std::uint64_t firstBiased = exponentBias + firstBinaryExponent;
     const double magnitude = std::fabs(value);
     std::uint64_t bits = 0;
     std::memcpy(&bits, &magnitude, sizeof bits);
@@ -168,11 +188,11 @@ inline char* layOut(char* out, std::uint32_t number, const decade& d) {
     if (!(std::fabs(scaled - number) < limits[d])) {
         return nullptr;
     }
-    if (number == 1000000) {
+    if (number == sixDigitsEnd) {
         if (d == lastDecade) {
             return nullptr;
         }
-        number = 100000;
+        number = sixDigitsBegin;
         ++d;
     }
     *out = '-';
@@ -184,13 +204,14 @@ inline char* layOut(char* out, std::uint32_t number, const decade& d) {
 char* writeSmall(char* out, double value, double bound) {
     constexpr const decade& units = decades[firstDecade + std::size_t(-firstExponent)];
     constexpr int leastExponent = -16;
+    constexpr double firstScale = 1e10; // of [1e-5, 1e-4); like its multiples up to 1e22 exact
     const double magnitude = std::fabs(value);
     if (!(magnitude < powersOfTen[0])) {
         return nullptr;
     }
     int exponent = firstExponent - 1;
-    double scale = 1e10; // exact, and so are its multiples up to 1e22
-    for (; magnitude * scale < 1e5; scale *= 10) {
+    double scale = firstScale;
+    for (; magnitude * scale < sixDigitsBegin; scale *= 10) {
         if (--exponent < leastExponent) {
             return nullptr;
         }
@@ -198,7 +219,8 @@ char* writeSmall(char* out, double value, double bound) {
     const double scaled = magnitude * scale;
     const auto number = static_cast<std::int32_t>(scaled + half);
     const double doubt = bound * scale + scalingError;
-    if (number >= 1000000 || doubt > largestBound || std::fabs(scaled - number) + doubt >= half) {
+    if (number >= sixDigitsEnd || doubt > largestBound ||
+        std::fabs(scaled - number) + doubt >= half) {
         return nullptr;
     }
     *out = '-';

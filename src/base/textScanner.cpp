@@ -8,7 +8,15 @@
 #include <charconv>
 #include <cstdint>
 #include <cstring>
+#include <limits>
 #include <type_traits>
+
+// Most numbers in files are short: at most eight digits on each side of the point, and no exponent.
+// Their digits are found and joined eight at a time within one 64-bit word (D. Lemire, Number
+// parsing at a gigabyte per second, 2021), and the number is the quotient of two values that its
+// type holds exactly, hence correctly rounded (W. D. Clinger, How to read floating point numbers
+// accurately, 1990). Longer ones go to std::from_chars, and whatever the stream could read in
+// another way goes to a stream.
 
 namespace sorvik {
 
@@ -28,22 +36,14 @@ bool isNumeric(char c) {
     return isDigit(c) || c == '+' || c == '-' || c == '.' || c == 'e' || c == 'E';
 }
 
-/// Powers of ten and the largest whole number that T holds exactly: their quotient is the correctly
-/// rounded value (W. D. Clinger, How to read floating point numbers accurately, 1990).
+/// The powers of ten up to that of the longest run of digits. A float too holds them exactly.
 template <class T>
-struct exactRange;
+constexpr T powersOfTen[] = {T(1),      T(10),      T(100),      T(1000),     T(10000),
+                             T(100000), T(1000000), T(10000000), T(100000000)};
 
-template <>
-struct exactRange<float> {
-    static constexpr std::uint64_t largest = 1U << 24;
-    static constexpr float powers[] = {1e0F, 1e1F, 1e2F, 1e3F, 1e4F, 1e5F, 1e6F, 1e7F, 1e8F};
-};
-
-template <>
-struct exactRange<double> {
-    static constexpr std::uint64_t largest = std::uint64_t(1) << 53;
-    static constexpr double powers[] = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8};
-};
+/// T holds every whole number up to this one exactly.
+template <class T>
+constexpr std::uint64_t largestExact = std::uint64_t(1) << std::numeric_limits<T>::digits;
 
 /// A run of at most 8 decimal digits.
 struct digitRun {
@@ -51,25 +51,30 @@ struct digitRun {
     int length;
 };
 
+/// Multiplies by 10^high in the upper half of a word, and by 10^low in the lower one.
+constexpr std::uint64_t factors(int high, int low) {
+    return powersOfTen<std::uint64_t>[high] << 32 | powersOfTen<std::uint64_t>[low];
+}
+
 /// The digits from `p` on, where 8 characters can be read: all at once, since a loop over numbers
 /// of changing length is mostly mispredicted branches.
 [[gnu::always_inline]] inline digitRun readDigits(const char* p) {
-    constexpr std::uint64_t bytes = 0x0101010101010101U;
+    constexpr std::uint64_t bytes = 0x0101010101010101U; // times b: b in every byte
+    constexpr unsigned topBit = 0x80;
     // By byte: 0 to 9 for a digit; for others the top bit is set in `stops`, of which the lowest
     // counts.
     std::uint64_t text = littleEndian::load<std::uint64_t>(p) ^ bytes * '0';
-    const std::uint64_t stops = ((text + bytes * (0x80 - 10)) | text) & (bytes * 0x80);
+    const std::uint64_t stops = ((text + bytes * (topBit - 10)) | text) & (bytes * topBit);
     const int length = stops == 0 ? 8 : __builtin_ctzll(stops) / 8;
     if (length == 0) {
         return {0, 0};
     }
-    // Digits to the upper end, zeros before them; then pairs, fours and all eight are joined.
+    // Digits to the upper end, zeros before them; then pairs are joined, in every second byte. The
+    // sum of the four, each times its power of ten, comes together in the upper half.
     text <<= 8 * (8 - length);
     text = text * 10 + (text >> 8);
-    constexpr std::uint64_t pairs = 0x000000FF000000FFU;
-    text = ((text & pairs) * (100 + (std::uint64_t(1000000) << 32)) +
-            ((text >> 16) & pairs) * (1 + (std::uint64_t(10000) << 32))) >>
-           32;
+    constexpr std::uint64_t oddPairs = 0x000000FF000000FFU;
+    text = ((text & oddPairs) * factors(6, 2) + ((text >> 16) & oddPairs) * factors(4, 0)) >> 32;
     return {text, length};
 }
 
@@ -77,9 +82,6 @@ struct digitRun {
 /// at least `usualLength` characters.
 template <class T>
 const char* readShort(const char* begin, T& value) {
-    using range = exactRange<T>;
-    static constexpr std::uint64_t shifts[] = {1,      10,      100,      1000,     10000,
-                                               100000, 1000000, 10000000, 100000000};
     const bool isNegative = *begin == '-';
     const char* last = begin + (isNegative ? 1 : 0);
     const digitRun whole = readDigits(last);
@@ -89,11 +91,12 @@ const char* readShort(const char* begin, T& value) {
         decimals = readDigits(++last);
         last += decimals.length;
     }
-    const std::uint64_t number = whole.value * shifts[decimals.length] + decimals.value;
-    if (whole.length + decimals.length == 0 || isNumeric(*last) || number > range::largest) {
+    const std::uint64_t number =
+        whole.value * powersOfTen<std::uint64_t>[decimals.length] + decimals.value;
+    if (whole.length + decimals.length == 0 || isNumeric(*last) || number > largestExact<T>) {
         return nullptr;
     }
-    const T magnitude = static_cast<T>(number) / range::powers[decimals.length];
+    const T magnitude = static_cast<T>(number) / powersOfTen<T>[decimals.length];
     value = isNegative ? -magnitude : magnitude;
     return last;
 }
@@ -227,7 +230,7 @@ bool textScanner::read(T& value) {
     return readAsStream(value);
 }
 
-/// Gathers all that could belong to the number and lets a stream have the say.
+/// Gathers all that could belong to the number and leaves it to a stream.
 template <class T>
 bool textScanner::readAsStream(T& value) {
     std::ptrdiff_t length = 0;

@@ -1,6 +1,7 @@
 #include "io/sorvikIO.hpp"
 
 #include "base/processEnd.hpp"
+#include "io/brackets.hpp"
 
 #include <istream>
 #include <limits>
@@ -16,8 +17,7 @@ void skipRestOfLine(std::istream& in) {
 /// The value that the stream stands at: a block, or the rest of the line.
 std::string readValue(std::istream& in) {
     std::string value;
-    const int next = in.peek();
-    if (std::string_view("({[<'\"").find(static_cast<char>(next)) != std::string_view::npos) {
+    if (sorvik::brackets::opens(static_cast<char>(in.peek()))) {
         value = sorvikIO::extractBlock(in);
     } else {
         std::getline(in, value);

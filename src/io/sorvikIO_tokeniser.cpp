@@ -1,7 +1,7 @@
 #include "io/sorvikIO.hpp"
 
-#include "base/classicText.hpp"
 #include "base/excerpt.hpp"
+#include "io/brackets.hpp"
 #include "io/printer.hpp"
 
 #include <algorithm>
@@ -16,14 +16,11 @@ const std::string sorvikIO::notFoundStr = "KEY_NOT_FOUND";
 
 namespace {
 
-constexpr char unwanted[] = {'(', ')', '[', ']', '{', '}', '<', '>', ',', ';', '\t', '"', '\''};
+/// What `readNextEntry` finds; its values are those that it returns.
+enum class entryKind { none, plain, nested };
 
-/// Opening to closing characters.
-const std::map<char, char>& bracketPairs() {
-    static const std::map<char, char> pairs = {{'(', ')'}, {'{', '}'},   {'[', ']'},
-                                               {'<', '>'}, {'\'', '\''}, {'"', '"'}};
-    return pairs;
-}
+/// What `stripFromUnwanted` turns into blanks besides brackets.
+constexpr std::string_view separators = ",;\t";
 
 /// Whether a block holds entries. A drive path such as C:\ in a JSON string is no assignment.
 bool isNested(const std::string& block, char assign) {
@@ -31,46 +28,64 @@ bool isNested(const std::string& block, char assign) {
     return first != std::string::npos && first != block.find(":\\");
 }
 
+std::string keyFrom(std::string_view text) {
+    std::string key(text);
+    sorvikIO::strip(key);
+    sorvikIO::stripFromUnwanted(key);
+    return key;
+}
+
+/// Whether the first character of a value, blanks apart, opens a block.
+bool beginsBlock(std::string_view value) {
+    const std::size_t first = value.find_first_not_of(" \t");
+    return first != std::string_view::npos && sorvik::brackets::opens(value[first]);
+}
+
+/// Joins the text of a block from its parts: `nextPart` gives what precedes the next `closer`, or
+/// the end of the text, and false when there is nothing more.
+template <class NextPart>
+std::string joinBlock(char opener, char closer, NextPart nextPart) {
+    std::string block;
+    std::ptrdiff_t depth = 1;
+    for (std::string part; nextPart(part);) {
+        depth += std::count(part.begin(), part.end(), opener) - 1;
+        block += part;
+        if (depth == 0) {
+            break;
+        }
+        block += closer;
+    }
+    return block;
+}
+
 /// Reads the entries of a text one after the other. What is found further on in a line is kept for
 /// the next entry, so that a line of many blocks is searched once and not once a block.
 class entryReader {
 public:
-    entryReader(std::string_view content, char assignDLM)
-        : text_(content), in_(content), assign_(assignDLM) {}
+    entryReader(std::string_view text, char assignDLM) : text_(text), assign_(assignDLM) {}
 
     /// As `sorvikIO::readNextEntry`.
-    int next(std::string& key, std::string& value) {
+    entryKind next(std::string& key, std::string& value) {
         while (!isAtEnd_) {
-            lineEnd_ = find('\n', lineEnd_);
-            const std::size_t end = std::min(lineEnd_, text_.size());
-            percent_ = find('%', percent_);
-            hash_ = find('#', hash_);
-            const std::size_t comment = percent_ < end ? percent_ : std::min(hash_, end);
+            const std::size_t end = contentEnd();
             split_ = find(assign_, split_);
-            if (split_ >= comment) {
-                moveTo(lineEnd_);
+            if (split_ >= end) {
+                moveBehind(lineEnd_);
                 continue;
             }
-            key = text_.substr(position_, split_ - position_);
-            sorvikIO::strip(key);
-            sorvikIO::stripFromUnwanted(key);
-            const std::string_view rest = text_.substr(split_ + 1, comment - split_ - 1);
-            const std::size_t first = rest.find_first_not_of(" \t");
-            if (first == std::string_view::npos || bracketPairs().count(rest[first]) == 0) {
-                value = rest;
-                sorvikIO::strip(value);
-                sorvikIO::stripFromUnwanted(value);
-                moveTo(lineEnd_);
-                return 1;
+            key = keyFrom(text_.substr(position_, split_ - position_));
+            const std::string_view rest = text_.substr(split_ + 1, end - split_ - 1);
+            if (beginsBlock(rest)) {
+                value = takeBlock();
+                return isNested(value, assign_) ? entryKind::nested : entryKind::plain;
             }
-            in_.clear();
-            in_.seekg(static_cast<std::streamoff>(split_ + 1));
-            value = sorvikIO::extractBlock(in_);
-            isAtEnd_ = !in_.good();
-            position_ = isAtEnd_ ? text_.size() : static_cast<std::size_t>(in_.tellg());
-            return isNested(value, assign_) ? 2 : 1;
+            value = rest;
+            sorvikIO::strip(value);
+            sorvikIO::stripFromUnwanted(value);
+            moveBehind(lineEnd_);
+            return entryKind::plain;
         }
-        return 0;
+        return entryKind::none;
     }
 
     /// Where the next entry is looked for.
@@ -82,21 +97,45 @@ public:
     }
 
 private:
-    /// The first `c` at or behind the position, where `known` is the first behind an earlier one.
+    /// Where the line, or the comment in it, ends what is read of it.
+    std::size_t contentEnd() {
+        lineEnd_ = find('\n', lineEnd_);
+        percent_ = find('%', percent_);
+        hash_ = find('#', hash_);
+        const std::size_t end = std::min(lineEnd_, text_.size());
+        return percent_ < end ? percent_ : std::min(hash_, end);
+    }
+
+    /// Reads the block that follows the assignment.
+    std::string takeBlock() {
+        position_ = text_.find_first_not_of(" \t", split_ + 1);
+        const char opener = text_[position_++];
+        const char closer = sorvik::brackets::closerOf(opener);
+        return joinBlock(opener, closer, [&](std::string& part) {
+            const bool hasMore = !isAtEnd_;
+            if (hasMore) {
+                const std::size_t end = text_.find(closer, position_);
+                part = text_.substr(position_, end - position_);
+                moveBehind(end);
+            }
+            return hasMore;
+        });
+    }
+
+    /// The first `c` from the position on, where `known` is the first from an earlier one on.
     std::size_t find(char c, std::size_t known) const {
         return known != unknown && known >= position_ ? known : text_.find(c, position_);
     }
 
-    /// Stands behind the line end, or at the end of a text that has none left.
-    void moveTo(std::size_t newline) {
-        isAtEnd_ = newline == std::string_view::npos;
-        position_ = isAtEnd_ ? text_.size() : newline + 1;
+    /// Moves behind the character that was found, or to the end where none was.
+    void moveBehind(std::size_t found) {
+        isAtEnd_ = found == std::string_view::npos;
+        position_ = isAtEnd_ ? text_.size() : found + 1;
     }
 
     static constexpr std::size_t unknown = std::string_view::npos - 1;
 
     std::string_view text_;
-    sorvik::classicText in_;
     char assign_;
     std::size_t position_ = 0;
     std::size_t split_ = unknown;
@@ -134,11 +173,12 @@ public:
         std::string value;
         entryReader entries(text, assign_);
         const openBlock block{entries, parent == nullptr ? 1 : parent->depth + 1, parent};
-        while (const int kind = entries.next(key, value)) {
+        for (auto kind = entries.next(key, value); kind != entryKind::none;
+             kind = entries.next(key, value)) {
             if (value.empty() || map.count(key) != 0) {
                 continue;
             }
-            if (kind == 1) {
+            if (kind == entryKind::plain) {
                 sorvikIO::stripFromUnwanted(value);
                 map.emplace(key, value);
                 continue;
@@ -197,32 +237,24 @@ int sorvikIO::readNextEntry(std::istream& in, std::string& key, std::string& val
     const std::streampos start = in.tellg();
     const std::string text = restOf(in);
     entryReader entries(text, assign);
-    const int kind = entries.next(key, value);
+    const entryKind kind = entries.next(key, value);
     in.clear();
     in.seekg(start + static_cast<std::streamoff>(entries.place()));
     in.setstate(entries.ended() ? std::ios::eofbit : std::ios::goodbit);
-    return kind;
+    return static_cast<int>(kind);
 }
 
 std::string sorvikIO::extractBlock(std::istream& in) {
     char opener = 0;
     in >> opener;
-    const auto pair = bracketPairs().find(opener);
-    const char closer = pair == bracketPairs().end() ? '\0' : pair->second;
-
-    std::string block;
-    std::string part;
-    std::ptrdiff_t depth = 1;
-    while (in.good()) {
-        std::getline(in, part, closer);
-        depth += std::count(part.begin(), part.end(), opener) - 1;
-        block += part;
-        if (depth == 0) {
-            break;
+    const char closer = sorvik::brackets::closerOf(opener);
+    return joinBlock(opener, closer, [&](std::string& part) {
+        const bool hasMore = in.good();
+        if (hasMore) {
+            std::getline(in, part, closer);
         }
-        block += closer;
-    }
-    return block;
+        return hasMore;
+    });
 }
 
 void sorvikIO::stripFromComment(std::string& line) {
@@ -261,5 +293,6 @@ void sorvikIO::stripFromUnwanted(std::string& s) {
 }
 
 bool sorvikIO::checkUnwanted(char c) {
-    return std::find(std::begin(unwanted), std::end(unwanted), c) != std::end(unwanted);
+    const auto isIn = [c](std::string_view text) { return text.find(c) != std::string_view::npos; };
+    return isIn(sorvik::brackets::pairs) || isIn(separators);
 }

@@ -1,5 +1,6 @@
 #include "io/printer.hpp"
 
+#include "base/classicLocale.hpp"
 #include "base/processEnd.hpp"
 
 #include <cmath>
@@ -76,6 +77,7 @@ void printer::printMatrix(const int& rows, const int& cols, const std::vector<do
 }
 
 void printer::printMatrix(std::ostream& os, const int& rows, const int& cols, const double* data) {
+    const sorvik::classicLocale whileWriting(os);
     for (int i = 0; i < rows; ++i) {
         const double* row = data + static_cast<std::ptrdiff_t>(i) * cols;
         for (int j = 0; j < cols; ++j) {
@@ -105,6 +107,7 @@ void printer::printMatrix(const int& rows, const int& cols, const std::vector<st
 
 std::ostream& printer::printLine(std::ostream& os, const int& n, const double& first,
                                  const double& scale, const double* values) {
+    const sorvik::classicLocale whileWriting(os);
     os << first;
     for (int i = 0; i < n; ++i) {
         os << '\t' << values[i] * scale;

@@ -1,5 +1,6 @@
 #include "io/sorvikIO.hpp"
 
+#include "base/classicLocale.hpp"
 #include "base/processEnd.hpp"
 #include "io/brackets.hpp"
 
@@ -37,6 +38,7 @@ void skipBlanks(std::istream& in) {
 } // namespace
 
 std::string sorvikIO::findKey(std::istream& in, const std::string& key) {
+    const sorvik::classicLocale whileReading(in);
     std::string word(key.size(), '\0');
     for (in >> std::ws; in.good(); in >> std::ws) {
         const std::streampos wordStart = in.tellg();

@@ -1,5 +1,6 @@
 #include "io/sorvikIO.hpp"
 
+#include "base/classicLocale.hpp"
 #include "base/classicText.hpp"
 
 // A table is one row of numbers per line. The look ahead after each line makes the last line of a
@@ -21,7 +22,7 @@ void skipLines(std::istream& in, int count) {
     }
 }
 
-/// Reads one line and looks at the character behind it.
+/// Reads one line and looks at the character after it.
 void nextLine(std::istream& in, std::string& line) {
     std::getline(in, line);
     in.peek();
@@ -48,6 +49,7 @@ bool sorvikIO::isDLM(std::istream& in, int nSkip) {
     skipLines(in, nSkip);
     bool delimited = false;
     if (in.good()) {
+        const sorvik::classicLocale whileReading(in);
         T first(0);
         in >> first;
         delimited = isDelimiter(in.peek());

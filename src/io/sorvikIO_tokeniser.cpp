@@ -1,5 +1,6 @@
 #include "io/sorvikIO.hpp"
 
+#include "base/classicLocale.hpp"
 #include "base/excerpt.hpp"
 #include "io/brackets.hpp"
 #include "io/printer.hpp"
@@ -245,6 +246,7 @@ int sorvikIO::readNextEntry(std::istream& in, std::string& key, std::string& val
 }
 
 std::string sorvikIO::extractBlock(std::istream& in) {
+    const sorvik::classicLocale whileReading(in);
     char opener = 0;
     in >> opener;
     const char closer = sorvik::brackets::closerOf(opener);

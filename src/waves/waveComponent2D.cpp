@@ -1,5 +1,6 @@
 #include "waves/waveComponent2D.hpp"
 
+#include "base/classicLocale.hpp"
 #include "waves/angles.hpp"
 
 #include <algorithm>
@@ -63,12 +64,14 @@ void waveComponent2D::kinematics(const double& s, const double& z, double& u, do
 }
 
 void waveComponent2D::printInfo(std::ostream& out) const {
+    const sorvik::classicLocale whileWriting(out);
     out << "Wave height (m): " << 2 * a_ << ", Period (s): " << 2 * sorvik::pi / w_
         << ", Wave length (m): " << 2 * sorvik::pi / k_
         << ", Phase (deg): " << phi_ * 180 / sorvik::pi << std::endl;
 }
 
 std::istream& operator>>(std::istream& in, waveComponent2D& component) {
+    const sorvik::classicLocale whileReading(in);
     double a = 0.0;
     double k = 0.0;
     double omega = 0.0;
@@ -80,6 +83,7 @@ std::istream& operator>>(std::istream& in, waveComponent2D& component) {
 }
 
 std::ostream& operator<<(std::ostream& out, const waveComponent2D& component) {
+    const sorvik::classicLocale whileWriting(out);
     return out << component.amplitude() << '\t' << component.waveNumber() << '\t'
                << component.angularFrequency() << '\t' << component.phase();
 }

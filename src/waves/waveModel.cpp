@@ -1,5 +1,6 @@
 #include "waves/waveModel.hpp"
 
+#include "base/classicLocale.hpp"
 #include "base/platform.hpp"
 #include "io/printer.hpp"
 #include "io/reader.hpp"
@@ -219,6 +220,7 @@ int waveModel::uniformPhaseDistribution(int seed, int n, double* phases) {
 }
 
 void waveModel::printFirstTrain(std::ostream& out, const char* title) const {
+    const sorvik::classicLocale whileWriting(out);
     out << title << " \n\t";
     if (trainList_.empty()) {
         return;

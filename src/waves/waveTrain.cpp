@@ -1,5 +1,6 @@
 #include "waves/waveTrain.hpp"
 
+#include "base/classicLocale.hpp"
 #include "base/memory.hpp"
 #include "waves/angles.hpp"
 
@@ -108,6 +109,7 @@ double waveTrain::totalPressure(const double& x, const double& y, const double& 
 }
 
 std::istream& operator>>(std::istream& in, waveTrain& train) {
+    const sorvik::classicLocale whileReading(in);
     train.direction_ = 0.0;
     train.count_ = 0;
     in >> train.direction_ >> train.count_;
@@ -128,6 +130,7 @@ std::istream& operator>>(std::istream& in, waveTrain& train) {
 }
 
 std::ostream& operator<<(std::ostream& out, const waveTrain& train) {
+    const sorvik::classicLocale whileWriting(out);
     out << train.directionDegrees() << '\t' << train.componentCount();
     for (const waveComponent2D& component : train.components()) {
         out << '\t' << component;

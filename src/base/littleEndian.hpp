@@ -9,7 +9,7 @@ namespace sorvik {
 /// Numbers from and to bytes, the lowest first, on any machine.
 namespace littleEndian {
 
-/// The steps without a loop: compilers make one load or store of them, but not of a loop.
+/// The steps are spelled out: compilers turn them into one load or store, but not a loop.
 template <class Number, std::size_t... byte>
 Number loadBytes(const char* bytes, std::index_sequence<byte...> /*places*/) {
     return ((static_cast<Number>(static_cast<unsigned char>(bytes[byte])) << (8 * byte)) | ...);

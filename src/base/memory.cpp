@@ -16,8 +16,8 @@ bool memory::canHold(std::size_t count, std::size_t bytes) {
     if (!platform::hasMemory(total)) {
         return false;
     }
-    // Not through operator new, which may be set to end the process. The pointer is volatile for
-    // the call not to be optimised away.
+    // Not through operator new, which may be set to end the process. The pointer is volatile to
+    // keep the call from being optimised away.
     void* volatile trial = std::malloc(total + 1);
     std::free(trial);
     return trial != nullptr;

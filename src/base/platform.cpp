@@ -14,7 +14,7 @@
 const char* const sorvik::platform::randomSource = "default";
 
 bool sorvik::platform::hasMemory(std::size_t /*bytes*/) {
-    return true; // The system promises only what it has: an allocation tells.
+    return true; // The system promises only what it has.
 }
 
 void sorvik::platform::useLargePages(const void* /*begin*/, std::size_t /*bytes*/) {}

@@ -7,7 +7,7 @@ namespace sorvik {
 /// What differs between the systems that the program runs on.
 namespace platform {
 
-/// The source of random seeds, by the name that the standard random device knows it by.
+/// The source of random seeds, under its name for the standard random device.
 extern const char* const randomSource;
 
 /// Whether the machine has more than `bytes` of memory, as far as that is known.
@@ -16,8 +16,8 @@ bool hasMemory(std::size_t bytes);
 /// Asks for large pages for the `bytes` from `begin` on, where there are such.
 void useLargePages(const void* begin, std::size_t bytes);
 
-/// Keeps the numbers of closed standard streams from being given to files, and lets the bytes of
-/// standard output be those that are written, with a line feed alone for an end of line.
+/// Keeps the numbers of closed standard streams from being given to files, and makes standard
+/// output pass on its bytes unchanged, with a line feed alone for an end of line.
 void holdStandardStreams();
 
 /// std::strtod in the classic locale, without the end of the number.

@@ -4,8 +4,8 @@
 
 namespace sorvik {
 
-/// Numbers as the default stream format writes them (general notation, six significant digits), a
-/// page of integer arithmetic where the stream takes a general formatter.
+/// Numbers as the default stream format writes them (general notation, six significant digits), by
+/// integer arithmetic, which is faster than the stream.
 namespace sixDigits {
 
 /// What a text may take while it is written. The longest is 13 characters, "-1.23456e-308", but the

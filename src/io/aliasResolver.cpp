@@ -33,7 +33,7 @@ std::size_t commonLength(std::string_view a, std::string_view b) {
                         std::string(sourceWord) + " = " + excerpt(source) + std::string(what));
 }
 
-/// An alias that begins with its own source gives itself new entries for ever.
+/// An alias that begins with its own source gives itself new entries without end.
 void checkAlias(std::string_view prefix, std::string_view source) {
     if (prefix.size() > source.size() && startsWith(prefix, source)) {
         fail(prefix, source,
@@ -75,8 +75,8 @@ void aliasResolver::noteIfAlias(entry e) {
     }
 }
 
-/// Tells the aliases whose source is the beginning of the key: from the longest such source on to
-/// shorter ones.
+/// Hands the entry to the aliases whose source is the beginning of its key, the longest source
+/// first.
 void aliasResolver::announce(entry e) {
     std::string_view head = e->first;
     for (auto after = bySource_.upper_bound(head); after != bySource_.begin();
@@ -107,7 +107,7 @@ bool aliasResolver::takeTurn(alias& a) {
             a.news.insert(a.news.end(), &*it);
         }
     }
-    // What is added behind the current entry belongs to this turn, what is added before it to the
+    // What is added after the current entry belongs to this turn, what is added before it to the
     // next.
     bool changed = false;
     for (auto e = a.news.begin(); e != a.news.end(); e = a.news.erase(e)) {

@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-/// What an input may hold and make at most; more is a fatal error.
+/// What an input may hold and produce at most; more is a fatal error.
 namespace sorvikIO {
 
 /// Blocks within blocks.

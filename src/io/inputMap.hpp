@@ -12,15 +12,17 @@ public:
     /// Dotted key to value text; "environment.wave.type" to "regular".
     std::map<std::string, std::string> map;
 
+    /// An empty map.
     inputMap() = default;
-    /// Reads the stream to its end.
+    /// Reads the stream to its end, with `assignDLM` between keys and values and `memberDLM`
+    /// between the components of keys.
     inputMap(std::istream& in, char assignDLM, char memberDLM);
     /// Reads the file, with ':' for '=' where its name contains ".json". A file that cannot be
     /// opened gives an empty map: callers that need it use `readFile`.
     explicit inputMap(const std::string& name);
 
-    /// Replaces all by what the constructor reads; false where the file cannot be opened. A file
-    /// that cannot be read to its end is fatal.
+    /// Reads the file in place of all that the map holds; returns false, and leaves it, if the file
+    /// cannot be opened. A file that cannot be read to its end is fatal.
     bool readFile(const std::string& name);
 
     /// Resolves aliases until nothing changes, in at most 502 passes.
@@ -31,16 +33,17 @@ public:
     template <class T>
     T read(const std::string& key, const T& fallback) const;
 
-    /// Sets `key`, overwriting. A value that holds an assignment is read as input text, and its
-    /// entries are set as `key`.subKey.
+    /// Sets `key`, overwriting. A value with an assignment is read as input text, and each of its
+    /// entries is set as `key`.subKey.
     void set(const std::string& key, const std::string& value);
 
-    /// Writes the map as JSON; nothing unless `outName` contains ".json". The name ".json" alone
-    /// means the map's own file name with that extension. A file that cannot be written is fatal.
+    /// Writes the map as JSON, or nothing unless `outName` contains ".json". The name ".json" alone
+    /// stands for the map's own file name with that extension. A file that cannot be written is
+    /// fatal; the file that the map was read from is replaced only by a complete one.
     void print(std::string outName) const;
 
-    /// The distinct names in front of, or made by, `word`: for every key with a component that
-    /// begins with `word`, that component without the marker `word` + "Type".
+    /// The distinct components of all keys that begin with `word`, in the order of the keys,
+    /// without the marker `word` + "Type": "body1" and "body2" for "body".
     std::vector<std::string> getKeys(const std::string& word) const;
 
 private:

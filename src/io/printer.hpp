@@ -15,7 +15,7 @@ public:
 
     /// Prints `message` in the fatal-error frame and ends the process with status 1.
     [[noreturn]] static void fatalError(const std::string& message);
-    /// The same, with no need of memory.
+    /// The same without asking for memory.
     [[noreturn]] static void fatalError(const char* message);
 
     /// Reports that `key` has no value in the input file and ends the process with status 1.
@@ -26,25 +26,29 @@ public:
     /// given for the input `name` and ends the process with status 1.
     static void fatalCheckSize(int found, int expected, const std::string& name);
 
-    /// Prints a rows x cols matrix, row-major, under a header and over a footer of its width.
+    /// Prints a rows x cols matrix, row-major, between a header and a footer of its width.
     static void printMatrix(const int& rows, const int& cols, const double* data,
                             const std::string& title);
+    /// The same of a vector.
     static void printMatrix(const int& rows, const int& cols, const std::vector<double>& data,
                             const std::string& title);
+    /// The same of texts, each before two blanks.
     static void printMatrix(const int& rows, const int& cols, const std::vector<std::string>& cells,
                             const std::string& title);
 
     /// Writes the rows of a row-major matrix to `os`, every value after a tab, in the number format
-    /// of the stream. Nothing for `rows` below 1.
+    /// of the stream, but in the classic locale. Nothing for `rows` below 1.
     static void printMatrix(std::ostream& os, const int& rows, const int& cols, const double* data);
+    /// The same of a vector.
     static void printMatrix(std::ostream& os, const int& rows, const int& cols,
                             const std::vector<double>& data);
 
-    /// Writes one line of a time series: `first`, then `n` values times `scale`, tab-separated.
+    /// Writes one line of a time series: `first`, then `n` values times `scale`, tab-separated, in
+    /// the classic locale. Returns `os`.
     static std::ostream& printLine(std::ostream& os, const int& n, const double& first,
                                    const double& scale, const double* values);
 
-    /// Writes `n` doubles as they lie in memory, `m_dblSize` bytes each.
+    /// Writes `n` doubles as they are in memory, `m_dblSize` bytes each; nothing for `n` below 1.
     static void writeDoubles(std::ostream& os, int n, const double* values);
 
     /// Redraws a bar of 50 characters when it has grown beyond `shown`, the number of characters

@@ -5,15 +5,20 @@
 #include <string>
 #include <vector>
 
-/// The configuration of one run: what the command line and the input file say together.
+/// The configuration of one run, from the command line and the input file.
 ///
-/// Whatever is wrong with it is a fatal error, but for old results that are not there.
+/// Errors in it are fatal, except that missing old results are a warning.
 class reader {
 public:
+    /// The input file that is meant where no flag names one.
     std::string defaultInputFile = "sorvikInput.m";
+    /// The input file that is read.
     std::string inputFile;
+    /// Where results are written.
     std::string outputFolder = "sorvikResults";
+    /// Where results of an earlier run are; the output folder unless `oldResultsFound`.
     std::string oldResultsFolder;
+    /// Whether a flag asked for old results that are there.
     bool oldResultsFound = false;
     /// The entries of `inputFile`.
     inputMap inputs;
@@ -31,8 +36,8 @@ public:
     /// input file that is given wins over that of old results.
     void fileConfiguration(int argc, const char** argv);
 
-    /// The value of `key`, or of `alternative` where `key` is missing: text as it stands, or a list
-    /// of doubles. A value that is missing under both names is fatal.
+    /// The value of `key`, or of `alternative` where `key` is missing: its text, or a list of
+    /// doubles. A value that is missing under both names is fatal.
     template <class T>
     T mustRead(const std::string& key, const std::string& alternative = "") const;
 
@@ -41,18 +46,18 @@ public:
     static bool findFlag(const std::string& flag, int argc, const char** argv, int& position);
 
     /// Returns the index of the first argument that equals `flag`, or -1. `value` receives the
-    /// argument behind it, or "FOUND" where that is missing or begins with '-' (a negative number
-    /// is no value either); it stays untouched where there is no such flag.
+    /// argument after it, or "FOUND" where that is missing or begins with '-', as a negative number
+    /// does; it stays untouched where there is no such flag.
     static int getFlag(const std::string& flag, int argc, const char** argv, std::string& value);
 
     /// Whether the file can be opened for reading; if not, and it must exist, that is fatal.
     static bool fileExist(const std::string& name, bool mustExist);
 
-    /// Makes the last folder of `path`, unless it is there, and proves that files can be written
-    /// into it; otherwise that is fatal. The proof leaves no file behind and harms none.
+    /// Makes the last folder of `path`, unless it is there, and tries whether files can be written
+    /// into it; otherwise that is fatal. Trying leaves no file and changes none.
     static void makeFolder(const std::string& path);
 
-    /// The name without its last extension; dots in folder names are none.
+    /// The name without its last extension. Dots in the names of folders do not count.
     static std::string removeExtension(const std::string& name);
 };
 

@@ -21,8 +21,9 @@
 /// Nothing here reports malformed text: it is skipped or taken literally.
 namespace sorvikIO {
 
+/// Stands between keys and values; ':' in JSON.
 constexpr char assignmentDLM = '=';
-/// What lookups that fail return.
+/// What lookups return that find nothing.
 extern const std::string notFoundStr;
 
 // ---- Tokeniser (sorvikIO_tokeniser.cpp) ----
@@ -33,7 +34,7 @@ extern const std::string notFoundStr;
 std::map<std::string, std::string> readInputStream(std::istream& in, char assign, char member);
 
 /// Reads the next entry: 0 when none is left, 1 for a plain value, 2 for a nested block, whose text
-/// is `value`. Lines without `assign` are passed over.
+/// is `value`. Lines without `assign` are ignored.
 int readNextEntry(std::istream& in, std::string& key, std::string& value, char assign);
 
 /// Reads one bracketed or quoted block, across lines, and returns the text between its outer
@@ -53,12 +54,12 @@ bool checkUnwanted(char c);
 
 // ---- Typed values (sorvikIO_values.cpp) ----
 
-/// The first number of `text` as T (double or int), what follows it ignored: 0 where there is none,
-/// the nearest limit where it is out of range.
+/// The first number of `text` as T (double or int): 0 where there is none, the nearest limit where
+/// it is out of range. What follows it is ignored.
 template <class T>
 void parse(const std::string& text, T& out);
-/// Appends the whitespace-separated numbers of `text`. A word that is no number appends one 0 and
-/// ends the list: "1 2 abc 4" gives 1, 2, 0.
+/// Appends the whitespace-separated numbers of `text`. A non-numeric word is read as 0 and ends the
+/// list: "1 2 abc 4" gives 1, 2, 0.
 template <class T>
 void parse(const std::string& text, std::vector<T>& out);
 
@@ -67,18 +68,17 @@ void parse(const std::string& text, std::vector<T>& out);
 /// Whether the first number after `nSkip` lines is followed by one of ";,:=". Rewinds the stream.
 template <class T>
 bool isDLM(std::istream& in, int nSkip);
-/// Appends the numbers of a whitespace-separated line and returns how many; a word that is no
-/// number appends one 0 and ends the line.
+/// Appends the numbers of a whitespace-separated line and returns how many. A non-numeric word is
+/// read as 0 and ends the line.
 template <class T>
 int readLine(const std::string& line, std::vector<T>& data);
-/// The number of values on a delimited line: numbers separated by blanks, or by one of ";,:=" with
-/// blanks around it. The caller's vector is not changed.
+/// The number of values on a delimited line: numbers separated by blanks, or by one of ";,:=" and
+/// any blanks around it. The caller's vector is not changed.
 template <class T>
 int readLineDLM(const std::string& line, std::vector<T> data);
 /// Reads a table from `in` after `nSkip` lines, appends its values row by row and returns the
 /// number of columns, which is that of the last row read: reading ends at the first row of another
-/// length. Of a table delimited by ";,:=" only the columns are counted; none of its values is
-/// stored.
+/// length. Of a table delimited by ";,:=" only the columns are counted, and no value is stored.
 template <class T>
 int readData(std::istream& in, std::vector<T>& data, int nSkip);
 
@@ -93,7 +93,7 @@ bool assignAlternatives(std::map<std::string, std::string>& map);
 /// A `prefix` that is itself `source` and more would grow without end: a fatal error that names it.
 bool addAlternativeKey(std::map<std::string, std::string>& map, const std::string& prefix,
                        const std::string& source);
-/// The components of a dotted key; empty ones are kept, but none follows a trailing ".".
+/// The components of a dotted key, empty ones included, but none after a trailing ".".
 std::vector<std::string> splitKey(const std::string& key);
 
 // ---- Lookup in a stream (sorvikIO_lookup.cpp) ----

@@ -103,7 +103,18 @@ TEST(sorvikIO, readsEntriesAndAliasesOneByOne) {
     EXPECT_TRUE(sorvikIO::assignAlternatives(map.map));
     EXPECT_FALSE(sorvikIO::addAlternativeKey(map.map, "body2", "a"));
     EXPECT_EQ(map.map["body2.x"], "1");
-    EXPECT_EQ(map.getKeys("body"), (std::vector<std::string>{"body1", "body2"}));
+}
+
+TEST(sorvikIO, takesKeysApart) {
+    using words = std::vector<std::string>;
+    EXPECT_EQ(sorvikIO::splitKey("a.bc.d"), (words{"a", "bc", "d"}));
+    EXPECT_EQ(sorvikIO::splitKey(".a.."), (words{"", "a", ""}));
+    inputMap map;
+    for (const char* key :
+         {"b", "bo1.x.c", "boType", "c.bo2.bo1", "c.d.bo", "c.d.boTypes", "cbo"}) {
+        map.set(key, "1");
+    }
+    EXPECT_EQ(map.getKeys("bo"), (words{"bo1", "bo2", "bo", "boTypes"}));
 }
 
 TEST(inputMap, setsTextWithAssignmentsAsEntries) {
@@ -115,10 +126,12 @@ TEST(inputMap, setsTextWithAssignmentsAsEntries) {
 }
 
 TEST(lookupKey, findsKeysInAStream) {
-    const std::string text = "x = 1\n wave.Hs = 2 % m\nlist = [1\n2]\nbody.source = other\n"
-                             "other.mass = 7\nlonger.than.its.line = 1\nempty = ;\nb=9";
-    const entries expected = {{"x", "1"}, {"wave.Hs", "2"},   {"list", "1\n2"},
-                              {"b", "9"}, {"body.mass", "7"}, {"Hs", "KEY_NOT_FOUND"}};
+    const std::string text = "x = 1\n wave.Hs = 2 % m\nlist = [1\n2]\nin.front = 7\n"
+                             "body.source = in\nlonger.than.its.line = 1\nempty = ;\na.source = c\n"
+                             "a.b.source = d\nc.b.e = 3\nc.f.g = 4\nd.e = 5\nb=9";
+    const entries expected = {
+        {"x", "1"}, {"wave.Hs", "2"}, {"list", "1\n2"}, {"body.front", "7"},
+        {"b", "9"}, {"a.b.e", "5"},   {"a.f.g", "4"},   {"Hs", "KEY_NOT_FOUND"}};
     for (const auto& [key, value] : expected) {
         std::istringstream in(text);
         EXPECT_EQ(sorvikIO::lookupKey(in, key), value) << key;

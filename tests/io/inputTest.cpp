@@ -29,9 +29,27 @@ TEST(reader, readsWhatItMust) {
     EXPECT_EQ(config.mustRead<std::vector<double>>("list"), (std::vector<double>{1, 2}));
     EXPECT_END_SAYING(config.mustRead<std::string>("a.b"), 1, "Cannot find value of a.b in input");
     EXPECT_END_SAYING(reader::fileExist("missing", true), 1, "Cannot find or open file: missing");
+    EXPECT_END_SAYING(
+        reader::makeFolder("no/parent"), 1,
+        "\n\n\tThe folder no/parent was not created properly. \n\t Sorvik only creates "
+        "the final layer of the folder tree. Please make sure that the parent "
+        "directory exists, and check permissions.\n\n\n* * * Terminating");
 }
 
-TEST(toJSON, limitsTheTextItWrites) {
+TEST(getFlag, leavesTheValueWithoutTheFlag) {
+    const char* cases[][4] = {
+        {"x", "-a", "b", "b"}, {"x", "-a", "-5", "FOUND"}, {"x", "y", "-a", "FOUND"}};
+    for (auto& arguments : cases) {
+        std::string value = "as before";
+        EXPECT_EQ(reader::getFlag("-b", 3, arguments, value), -1);
+        EXPECT_EQ(value, "as before");
+        EXPECT_GT(reader::getFlag("-a", 3, arguments, value), 0);
+        EXPECT_EQ(value, arguments[3]);
+    }
+}
+
+TEST(toJSON, writesWordsAsTextAndLimitsIt) {
+    EXPECT_EQ(sorvikIO::frmtJSONvalue("a ~b c -1 Z"), R"(["a" , ~b , "c" , -1 , "Z"])");
     EXPECT_EQ(sorvikIO::toJSON({{"a.b", ""}}, 1), "{\n\t\t\"a\" : {\n\t\t\t\"b\" : {}\n\t\t}\n\t}");
     const std::string deep = std::string(300'000, '.') + "a";
     EXPECT_END_SAYING(sorvikIO::toJSON({{deep, "1"}}, 0), 1, "has 300001 components");
@@ -75,11 +93,18 @@ TEST(parse, endsAListAtTheFirstWord) {
     }
 }
 
-TEST(readData, skipsHeadLines) {
-    std::istringstream in("# x y\nm m\n1 2\n");
-    std::vector<double> data;
-    EXPECT_EQ(sorvikIO::readData<double>(in, data, 2), 2);
-    EXPECT_EQ(data, (std::vector<double>{1, 2}));
+TEST(readData, readsWhatBlanksSeparate) {
+    const std::tuple<const char*, int, int, std::vector<double>> cases[] = {
+        {"# x y\nm m\n1 2\n", 2, 2, {1, 2}},
+        {"1 2\n3 4 5\n6 7\n", 0, 3, {1, 2, 3, 4, 5}},
+        {"1=2, 3;4 : 5 6\n1 2 3 4 5 6", 0, 6, {}},
+        {"1 ;2\n3, 4\n", 0, 2, {1, 0, 3, 0}}};
+    for (const auto& [text, head, columns, values] : cases) {
+        std::istringstream in(text);
+        std::vector<double> data;
+        EXPECT_EQ(sorvikIO::readData<double>(in, data, head), columns) << text;
+        EXPECT_EQ(data, values) << text;
+    }
 }
 
 } // namespace

@@ -25,6 +25,11 @@ TEST(printer, printsMatricesAndLines) {
     std::ostringstream line;
     printer::printLine(line, 2, 0.5, 10, data.data());
     EXPECT_EQ(line.str(), "0.5\t10\t25\n");
+    std::ostringstream bytes;
+    printer::writeDoubles(bytes, 3, data.data());
+    printer::writeDoubles(bytes, -1, data.data());
+    printer::writeDoubles(bytes, 1, data.data() + 3);
+    EXPECT_EQ(bytes.str(), std::string(reinterpret_cast<const char*>(data.data()), 32));
 }
 
 std::string progress(double done, double total, int shown) {

@@ -30,10 +30,10 @@ template <std::size_t rows, std::size_t columns>
 }
 
 template <std::size_t rows, std::size_t columns>
-[[gnu::always_inline]] inline void multiplyParts(std::size_t count, std::size_t panels,
+[[gnu::always_inline]] inline void multiplyParts(std::size_t count, std::size_t strips,
                                                  const double* instants, const double* probes,
                                                  double* tiles) {
-    for (std::size_t panel = 0; panel < panels; ++panel) {
+    for (std::size_t strip = 0; strip < strips; ++strip) {
         for (std::size_t i = 0; i < width; i += rows) {
             for (std::size_t j = 0; j < width; j += columns) {
                 multiplyPart<rows, columns>(count, instants + i, probes + j, tiles + i * width + j);
@@ -44,45 +44,45 @@ template <std::size_t rows, std::size_t columns>
     }
 }
 
-void multiplyPlain(std::size_t count, std::size_t panels, const double* instants,
+void multiplyPlain(std::size_t count, std::size_t strips, const double* instants,
                    const double* probes, double* tiles) {
-    multiplyParts<4, 4>(count, panels, instants, probes, tiles);
+    multiplyParts<4, 4>(count, strips, instants, probes, tiles);
 }
 
 #ifdef SORVIK_WIDE_VECTORS
-[[gnu::target("avx2")]] void multiplyWide(std::size_t count, std::size_t panels,
+[[gnu::target("avx2")]] void multiplyWide(std::size_t count, std::size_t strips,
                                           const double* instants, const double* probes,
                                           double* tiles) {
-    multiplyParts<4, 8>(count, panels, instants, probes, tiles);
+    multiplyParts<4, 8>(count, strips, instants, probes, tiles);
 }
 
-[[gnu::target("avx512f")]] void multiplyWidest(std::size_t count, std::size_t panels,
+[[gnu::target("avx512f")]] void multiplyWidest(std::size_t count, std::size_t strips,
                                                const double* instants, const double* probes,
                                                double* tiles) {
-    multiplyParts<4, 8>(count, panels, instants, probes, tiles);
+    multiplyParts<4, 8>(count, strips, instants, probes, tiles);
 }
 #endif
-
-using product = decltype(&multiplyPlain);
-
-product fastest() {
-#ifdef SORVIK_WIDE_VECTORS
-    if (__builtin_cpu_supports("avx512f") != 0) {
-        return multiplyWidest;
-    }
-    if (__builtin_cpu_supports("avx2") != 0) {
-        return multiplyWide;
-    }
-#endif
-    return multiplyPlain;
-}
 
 } // namespace
 
-void elevationKernel::multiply(std::size_t count, std::size_t panels, const double* instants,
+std::vector<elevationKernel::variant> elevationKernel::variants() {
+    std::vector<variant> supported;
+#ifdef SORVIK_WIDE_VECTORS
+    if (__builtin_cpu_supports("avx512f") != 0) {
+        supported.push_back({"avx512f", multiplyWidest});
+    }
+    if (__builtin_cpu_supports("avx2") != 0) {
+        supported.push_back({"avx2", multiplyWide});
+    }
+#endif
+    supported.push_back({"plain", multiplyPlain});
+    return supported;
+}
+
+void elevationKernel::multiply(std::size_t count, std::size_t strips, const double* instants,
                                const double* probes, double* tiles) {
-    static const product chosen = fastest();
-    chosen(count, panels, instants, probes, tiles);
+    static const auto fastest = variants().front().run;
+    fastest(count, strips, instants, probes, tiles);
 }
 
 } // namespace sorvik

@@ -1,7 +1,16 @@
+// A table of elevations is computed in five files:
+//     elevationTable   the lines, whose texts are those of the model's own elevations: by asking
+//     the
+//                      model, or by sums over its trains where all within their bound have one text
+//     elevationBound   how far those sums may lie from the elevations of the model
+//     elevationChunks  the sums for a chunk of instants at all probes, as products of two matrices
+//     wavePhasors      the matrices: the components at the probes, and at the instants
+//     elevationKernel  the products, in the widest vectors that the processor has
 #include "waves/elevationTable.hpp"
 
 #include "base/textWriter.hpp"
 #include "io/printer.hpp"
+#include "waves/elevationBound.hpp"
 #include "waves/elevationChunks.hpp"
 #include "waves/waveModel.hpp"
 
@@ -24,7 +33,7 @@ struct elevationTable {
     void showProgress(double t) { printer::showProgress(t, instants[instants.count() - 1], shown); }
 };
 
-/// Writes the lines from the sum of cosines as it stands in the model.
+/// Writes the lines as the model gives them.
 void writeDirect(elevationTable& table, std::ostream& out) {
     std::vector<double> elevation(table.x.size(), 0.0);
     for (std::int64_t i = 0; i < table.instants.count() && out.good(); ++i) {
@@ -41,7 +50,7 @@ void writeDirect(elevationTable& table, std::ostream& out) {
     }
 }
 
-/// The elevation of probe `j` at the instant `t` by the sum of cosines.
+/// The elevation of probe `j` at the instant `t` as the model gives it.
 double directElevation(elevationTable& table, double t, std::size_t j) {
     double elevation = 0.0;
     table.model.setTime(t);
@@ -50,7 +59,7 @@ double directElevation(elevationTable& table, double t, std::size_t j) {
 }
 
 /// Writes the elevations at the instant `t`: `sums`, which lie within `bound` of those of the model
-/// before the ramp, times the ramp factor. What the bound leaves in doubt is computed directly.
+/// before the ramp, times the ramp factor. What the bound leaves in doubt is asked of the model.
 void writeElevations(elevationTable& table, double t, const double* sums, double bound) {
     const double ramp = table.model.rampFactorAt(t);
     const std::size_t count = table.x.size();
@@ -67,9 +76,9 @@ void writeElevations(elevationTable& table, double t, const double* sums, double
     }
 }
 
-/// Writes the lines from chunks of phasor sums, with the text of the direct way.
-void writeChunks(elevationTable& table, const std::vector<planeWave>& waves, std::ostream& out) {
-    const double bound = elevationBound(waves, table.x, table.y, table.instants);
+/// Writes the lines from chunks, whose elevations lie within `bound` of those of the model.
+void writeChunks(elevationTable& table, const std::vector<planeWave>& waves, double bound,
+                 std::ostream& out) {
     elevationChunks chunks(waves, table.x, table.y, table.instants);
     const std::int64_t count = table.instants.count();
     for (std::int64_t first = 0; first < count && out.good(); first += chunks.length()) {
@@ -95,8 +104,9 @@ void writeElevationTable(waveModel& model, const std::vector<double>& x,
     }
     elevationTable table{model, x, y, instants, textWriter(out)};
     const std::vector<planeWave> waves = planeWavesOf(model);
-    if (suitsElevationChunks(waves, x, y, instants)) {
-        writeChunks(table, waves, out);
+    const double bound = elevationBound(waves, x, y, instants);
+    if (elevationChunks::suit(waves, x.size(), bound)) {
+        writeChunks(table, waves, bound, out);
     } else {
         writeDirect(table, out);
     }

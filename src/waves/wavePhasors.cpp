@@ -23,28 +23,28 @@ std::vector<planeWave> planeWavesOf(const waveModel& model) {
     return waves;
 }
 
-probePhasors::probePhasors(const std::vector<planeWave>& components, const std::vector<double>& xs,
-                           const std::vector<double>& ys, std::size_t largestTable)
-    : waves_(components), x_(xs), y_(ys), panels_((x_.size() + width - 1) / width),
-      panelSize_(2 * waves_.size() * width),
-      kept_(panels_ <= largestTable / sizeof(double) / panelSize_) {
-    table_.resize(kept_ ? panels_ * panelSize_ : panelSize_);
-    for (std::size_t p = 0; kept_ && p < panels_; ++p) {
-        fill(p, table_.data() + p * panelSize_);
+probePhasors::probePhasors(const std::vector<planeWave>& waves, const std::vector<double>& x,
+                           const std::vector<double>& y, std::size_t largestTable)
+    : waves_(waves), x_(x), y_(y), groups_((x_.size() + width - 1) / width),
+      groupSize_(2 * waves_.size() * width),
+      kept_(groups_ <= largestTable / sizeof(double) / groupSize_) {
+    table_.resize(kept_ ? groups_ * groupSize_ : groupSize_);
+    for (std::size_t g = 0; kept_ && g < groups_; ++g) {
+        fill(g, table_.data() + g * groupSize_);
     }
 }
 
-const double* probePhasors::panel(std::size_t index) {
+const double* probePhasors::group(std::size_t index) {
     if (kept_) {
-        return table_.data() + index * panelSize_;
+        return table_.data() + index * groupSize_;
     }
     fill(index, table_.data());
     return table_.data();
 }
 
-void probePhasors::fill(std::size_t index, double* panel) const {
-    double* real = panel;
-    double* imaginary = panel + panelSize_ / 2;
+void probePhasors::fill(std::size_t index, double* group) const {
+    double* real = group;
+    double* imaginary = group + groupSize_ / 2;
     for (const planeWave& wave : waves_) {
         for (std::size_t j = 0; j < width; ++j) {
             const std::size_t probe = std::min(index * width + j, x_.size() - 1);
@@ -56,16 +56,16 @@ void probePhasors::fill(std::size_t index, double* panel) const {
     }
 }
 
-timePhasors::timePhasors(std::size_t waves, std::size_t panelCount)
-    : panels(panelCount), cosines(waves * panels * width), sines(cosines.size()) {}
+timePhasors::timePhasors(std::size_t waves, std::size_t stripCount)
+    : strips(stripCount), cosines(waves * strips * width), sines(cosines.size()) {}
 
-template <typename angle>
-void timePhasors::fill(std::size_t waves, const angle& angleOf) {
+template <class Angle>
+void timePhasors::fill(std::size_t waves, const Angle& angleOf) {
     std::size_t next = 0;
-    for (std::size_t p = 0; p < panels; ++p) {
+    for (std::size_t strip = 0; strip < strips; ++strip) {
         for (std::size_t c = 0; c < waves; ++c) {
             for (std::size_t i = 0; i < width; ++i) {
-                const double theta = angleOf(c, p * width + i);
+                const double theta = angleOf(c, strip * width + i);
                 cosines[next] = std::cos(theta);
                 sines[next] = std::sin(theta);
                 ++next;
@@ -96,12 +96,12 @@ phasorTurn::phasorTurn(const std::vector<planeWave>& waves, double t) {
     }
 }
 
-void phasorTurn::apply(const double* panel, double* turned) const {
+void phasorTurn::apply(const double* group, double* turned) const {
     const std::size_t half = cosines_.size() * width;
     for (std::size_t c = 0; c < cosines_.size(); ++c) {
         for (std::size_t j = c * width; j < (c + 1) * width; ++j) {
-            turned[j] = panel[j] * cosines_[c] + panel[half + j] * sines_[c];
-            turned[half + j] = panel[half + j] * cosines_[c] - panel[j] * sines_[c];
+            turned[j] = group[j] * cosines_[c] + group[half + j] * sines_[c];
+            turned[half + j] = group[half + j] * cosines_[c] - group[j] * sines_[c];
         }
     }
 }

@@ -9,6 +9,7 @@ class waveModel;
 namespace sorvik {
 
 class timeInstants;
+
 /// One component of a sea state with the direction it travels in.
 struct planeWave {
     double amplitude;  ///< m
@@ -22,11 +23,11 @@ struct planeWave {
 /// The components of all trains, one train after the other.
 std::vector<planeWave> planeWavesOf(const waveModel& model);
 
-/// The complex amplitudes of the components at the probes, a exp(i k s), in panels of
-/// `elevationKernel::width` probes: a row of real parts per component, then a row of imaginary
-/// parts per component. The last panel repeats the last probe.
+/// The complex amplitudes of the components at the probes, a exp(i k s), in groups of
+/// `elevationKernel::width` probes: a strip of real parts, then a strip of imaginary parts. The
+/// last group repeats the last probe.
 ///
-/// Panels are kept for all probes if they take no more than `largestTable` bytes in all; otherwise
+/// Groups are kept for all probes if they take no more than `largestTable` bytes in all; otherwise
 /// they are computed whenever they are asked for.
 class probePhasors {
 public:
@@ -34,42 +35,42 @@ public:
     probePhasors(const std::vector<planeWave>& waves, const std::vector<double>& x,
                  const std::vector<double>& y, std::size_t largestTable);
 
-    std::size_t panelCount() const { return panels_; }
+    std::size_t groupCount() const { return groups_; }
     bool areKept() const { return kept_; }
-    /// Valid until the next call.
-    const double* panel(std::size_t index);
+    /// The two strips of a group, valid until the next call.
+    const double* group(std::size_t index);
 
 private:
-    void fill(std::size_t index, double* panel) const;
+    void fill(std::size_t index, double* group) const;
 
     const std::vector<planeWave>& waves_;
     const std::vector<double>& x_;
     const std::vector<double>& y_;
-    std::size_t panels_;
-    std::size_t panelSize_;
+    std::size_t groups_;
+    std::size_t groupSize_; ///< doubles
     bool kept_;
     std::vector<double> table_;
 };
 
-/// exp(i angle) of the components at the instants, in panels of `elevationKernel::width` instants:
-/// a row per component.
+/// cos and sin of the angles of the components at the instants, in strips of
+/// `elevationKernel::width` instants.
 struct timePhasors {
-    timePhasors(std::size_t waves, std::size_t panelCount);
+    timePhasors(std::size_t waves, std::size_t stripCount);
 
     /// Instants `first` to `first` + `count` - 1 at the angles omega t - phase, the last one
-    /// repeated up to the end of the panels.
+    /// repeated up to the end of the strips.
     void setInstants(const std::vector<planeWave>& waves, const timeInstants& instants,
                      std::int64_t first, std::int64_t count);
     /// The angles omega (m + 1/2) step for m = 0, 1, ...
     void setHalfSteps(const std::vector<planeWave>& waves, double step);
 
-    std::size_t panels;
+    std::size_t strips;
     std::vector<double> cosines;
     std::vector<double> sines;
 
 private:
-    template <typename angle>
-    void fill(std::size_t waves, const angle& angleOf);
+    template <class Angle>
+    void fill(std::size_t waves, const Angle& angleOf);
 };
 
 /// exp(i (omega t - phase)) of the components at one instant: turns probe phasors to that instant.
@@ -77,8 +78,9 @@ class phasorTurn {
 public:
     phasorTurn(const std::vector<planeWave>& waves, double t);
 
-    /// `turned` becomes the panel of a exp(i (k s - omega t + phase)).
-    void apply(const double* panel, double* turned) const;
+    /// Turns the two strips of a `group` of probes: a exp(i k s) becomes
+    /// a exp(i (k s - omega t + phase)).
+    void apply(const double* group, double* turned) const;
 
 private:
     std::vector<double> cosines_;

@@ -1,7 +1,9 @@
 #include "waves/elevationTable.hpp"
 #include "support/program.hpp"
 #include "support/randomSea.hpp"
+#include "waves/elevationBound.hpp"
 #include "waves/elevationChunks.hpp"
+#include "waves/elevationKernel.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -34,7 +36,9 @@ TEST(elevationTable, isThePlainLoopByteForByte) {
     for (unsigned seed = 0; seed < 40; ++seed) {
         SCOPED_TRACE(seed);
         randomTable t(seed, seed % 8 == 0 ? 300 : 40);
-        ASSERT_TRUE(suitsElevationChunks(planeWavesOf(t.sea), t.x, t.y, t.instants));
+        const std::vector<planeWave> waves = planeWavesOf(t.sea);
+        const double bound = elevationBound(waves, t.x, t.y, t.instants);
+        ASSERT_TRUE(elevationChunks::suit(waves, t.x.size(), bound));
         expectPlainLoop(t.sea, t.x, t.y, t.instants);
     }
 }
@@ -67,6 +71,40 @@ TEST(elevationChunks, staysWithinTheBound) {
         const double bound = elevationBound(planeWavesOf(t.sea), t.x, t.y, t.instants);
         EXPECT_LT(largestError(t, elevationChunks::usualTable), bound);
         EXPECT_LT(largestError(t, 0), bound) << "with phasors computed for each chunk";
+    }
+}
+
+TEST(elevationChunks, keepsPhasorsThatFitIntoTheTable) {
+    const std::vector<planeWave> waves(1000);
+    const values grid(40'401, 0.0); // 201 x 201 nodes
+    EXPECT_FALSE(probePhasors(waves, grid, grid, elevationChunks::usualTable).areKept());
+    const values nine(9, 0.0); // two groups of eight
+    const std::size_t bytes = waves.size() * 2 * 8 * 2 * sizeof(double);
+    EXPECT_TRUE(probePhasors(waves, nine, nine, bytes).areKept());
+    EXPECT_FALSE(probePhasors(waves, nine, nine, bytes - 1).areKept());
+}
+
+TEST(elevationKernel, givesTheSameBytesWithAllVectors) {
+    constexpr std::size_t count = 37, strips = 3, width = elevationKernel::width;
+    std::mt19937 random(5);
+    const auto draw = [&](std::size_t size) {
+        values drawn(size);
+        std::generate(drawn.begin(), drawn.end(), [&] { return std::ldexp(random(), -31) - 1; });
+        return drawn;
+    };
+    const values instants = draw(strips * count * width), probes = draw(count * width);
+    values expected(strips * elevationKernel::tileSize, 0.0);
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+        for (std::size_t c = 0; c < count; ++c) {
+            const std::size_t row = i / elevationKernel::tileSize * count + c;
+            expected[i] +=
+                instants[row * width + i / width % width] * probes[c * width + i % width];
+        }
+    }
+    for (const elevationKernel::variant& one : elevationKernel::variants()) {
+        values tiles(expected.size(), std::nan(""));
+        one.run(count, strips, instants.data(), probes.data(), tiles.data());
+        EXPECT_EQ(tiles, expected) << one.name;
     }
 }
 

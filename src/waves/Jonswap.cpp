@@ -11,6 +11,7 @@
 #include <iostream>
 
 Jonswap::Jonswap(const reader& config) : waveModel(config) {
+    declareSumOfTrains<Jonswap>();
     const inputMap& inputs = config.inputs;
     hs_ = inputs.read<double>(prefix + "Hs", hs_);
     gamma_ = inputs.read<double>(prefix + "gamma", gamma_);

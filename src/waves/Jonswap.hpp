@@ -9,7 +9,7 @@
 class Jonswap : public waveModel {
 public:
     /// Still water, no spectrum.
-    Jonswap() = default;
+    Jonswap() { declareSumOfTrains<Jonswap>(); }
     /// Reads the spectrum, scales it to the significant wave height where that is above zero, and
     /// prints the seed. A grid of frequencies that cannot be used is fatal.
     explicit Jonswap(const reader& config);

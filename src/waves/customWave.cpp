@@ -11,6 +11,7 @@
 #include <iostream>
 
 customWave::customWave(const reader& config) : waveModel(config) {
+    declareSumOfTrains<customWave>();
     const inputMap& inputs = config.inputs;
     const bool useRadians = inputs.read<int>(prefix + "useRadians", 0) != 0;
     if (inputs.map.count(prefix + "file") > 0) {

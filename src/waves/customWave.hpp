@@ -17,7 +17,7 @@
 class customWave : public waveModel {
 public:
     /// Still water.
-    customWave() = default;
+    customWave() { declareSumOfTrains<customWave>(); }
     /// Reads the components; a list or a file that is missing is fatal.
     explicit customWave(const reader& config);
 

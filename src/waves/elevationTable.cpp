@@ -1,9 +1,8 @@
 // A table of elevations is computed in five files:
-//     elevationTable   the lines, whose texts are those of the model's own elevations: by asking
-//     the
-//                      model, or by sums over its trains where all within their bound have one text
-//     elevationBound   how far those sums may lie from the elevations of the model
-//     elevationChunks  the sums for a chunk of instants at all probes, as products of two matrices
+//     elevationTable   the lines: the texts of what the model answers, or of sums over its trains
+//                      where no rounding error can change a text
+//     elevationBound   how far those sums may lie from what the model answers
+//     elevationChunks  the sums for a chunk of instants at all probes, as products of matrices
 //     wavePhasors      the matrices: the components at the probes, and at the instants
 //     elevationKernel  the products, in the widest vectors that the processor has
 #include "waves/elevationTable.hpp"
@@ -103,14 +102,18 @@ void writeElevationTable(waveModel& model, const std::vector<double>& x,
         return;
     }
     elevationTable table{model, x, y, instants, textWriter(out)};
+    if (!model.isSumOfTrains()) {
+        writeDirect(table, out);
+        return;
+    }
     const std::vector<planeWave> waves = planeWavesOf(model);
     const double bound = elevationBound(waves, x, y, instants);
     if (elevationChunks::suit(waves, x.size(), bound)) {
         writeChunks(table, waves, bound, out);
+        model.setTime(instants[instants.count() - 1]);
     } else {
         writeDirect(table, out);
     }
-    model.setTime(instants[instants.count() - 1]);
 }
 
 } // namespace sorvik

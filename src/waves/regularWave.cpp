@@ -34,6 +34,7 @@ bool isUsable(double value) {
 } // namespace
 
 regularWave::regularWave(const reader& config) : waveModel(config) {
+    declareSumOfTrains<regularWave>();
     const inputMap& inputs = config.inputs;
     amplitude_ = inputs.read<double>(prefix + "amplitude", 0.0);
     if (amplitude_ == 0.0) {

@@ -7,7 +7,7 @@
 class regularWave : public waveModel {
 public:
     /// Still water, amplitude 0.
-    regularWave() = default;
+    regularWave() { declareSumOfTrains<regularWave>(); }
     /// Reads the wave and prints its parameters. Without a period, frequency, length or wave
     /// number, or with one that is zero or not finite, that is fatal; an amplitude of 0 is warned
     /// of.

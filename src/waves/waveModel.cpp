@@ -118,7 +118,7 @@ void waveModel::evaluate(fluidState& state) const {
 }
 
 void waveModel::evaluate(int n, const double* positions, double* velocity, double* acceleration,
-                         double* fluidDensity, double* depthBelowSurface) const {
+                         double* density, double* depthBelowSurface) const {
     if (isDisabled) {
         return;
     }
@@ -128,7 +128,7 @@ void waveModel::evaluate(int n, const double* positions, double* velocity, doubl
     const pointBlocks points(block, positions);
     const double level = globals::m_stillWaterLevel;
     if (!hasWaves_) {
-        setStillWaterDensity(n, points.z, fluidDensity);
+        setStillWaterDensity(n, points.z, density);
         for (int i = 0; i < n; ++i) {
             depthBelowSurface[i] = level - points.z[i];
         }
@@ -138,7 +138,7 @@ void waveModel::evaluate(int n, const double* positions, double* velocity, doubl
         const double surface = rampFactor_ * sumOfEta(points.x[i], points.y[i]);
         depthBelowSurface[i] = (level + surface) - points.z[i];
         const double z = stretched(points.z[i] - level, surface, stretching_);
-        fluidDensity[i] = z > 0.0 ? globals::m_rhoAir : globals::m_rhoWater;
+        density[i] = z > 0.0 ? globals::m_rhoAir : globals::m_rhoWater;
         if (z > 0.0) {
             continue;
         }
@@ -154,11 +154,11 @@ void waveModel::evaluate(int n, const double* positions, double* velocity, doubl
 }
 
 void waveModel::evaluateRho(int n, const double* positions, double* velocity, double* acceleration,
-                            double* fluidDensity) const {
+                            double* density) const {
     if (isDisabled) {
         return;
     }
-    setStillWaterDensity(n, pointBlocks(n, positions).z, fluidDensity);
+    setStillWaterDensity(n, pointBlocks(n, positions).z, density);
     matrixOp::scale(globals::m_dimensionNumber * n, 0.0, velocity);
     matrixOp::scale(globals::m_dimensionNumber * n, 0.0, acceleration);
 }

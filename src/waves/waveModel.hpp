@@ -5,6 +5,7 @@
 
 #include <iosfwd>
 #include <string>
+#include <typeinfo>
 #include <vector>
 
 class reader;
@@ -14,7 +15,8 @@ class reader;
 ///
 /// Heights are global z coordinates [m]; the still water level, densities and gravity are those of
 /// `globals`. Points in space are blocks of 3n doubles: all x, all y, all z; velocities and
-/// accelerations likewise; 3n fits an int. Concrete models fill the trains in their constructors.
+/// accelerations likewise; 3n fits an int. Concrete models fill the trains in their constructors,
+/// or answer with members of their own.
 class waveModel {
 public:
     /// Still water: depth 1000 m, gravity 9.81 m/s², density 1000 kg/m³.
@@ -53,6 +55,18 @@ public:
     static int uniformPhaseDistribution(int seed, int n, double* phases);
 
     const std::vector<waveTrain>& trains() const { return trainList_; }
+    /// Whether `eta` is the sum of the trains times `rampFactorAt` the instant of `setTime`, so
+    /// that it may be computed without asking the model. Only for classes that
+    /// `declareSumOfTrains`.
+    bool isSumOfTrains() const { return typeid(*this) == *summing_; }
+    /// The depth of the water [m].
+    double depth() const { return depth_; }
+    /// The magnitude of gravity [m/s²].
+    double gravity() const { return gravity_; }
+    /// The density of the water [kg/m³].
+    double density() const { return density_; }
+    /// The duration of the start-up ramp [s].
+    double rampTime() const { return rampTime_; }
     /// The share of the waves that the start-up ramp lets through at the instant `t` [s]: 0 at
     /// t = 0, 1 from the ramp time on. Before t = 0 it oscillates.
     double rampFactorAt(double t) const;
@@ -64,6 +78,12 @@ protected:
     waveTrain& addTrain(double direction);
     /// Ends every concrete constructor: settles the stretching depth and switches the waves on.
     void finishTrains();
+    /// Declares in the constructor of the class T that T has the `eta` and `setTime` of this class.
+    /// It does not hold for the classes derived from T.
+    template <class T>
+    void declareSumOfTrains() {
+        summing_ = &typeid(T);
+    }
     /// Writes `title` and the first train with its first component.
     void printFirstTrain(std::ostream& out, const char* title) const;
 
@@ -83,4 +103,5 @@ private:
     double rampTime_ = 0.0;
     double rampFactor_ = 1.0;
     double stretching_ = 1000.0;
+    const std::type_info* summing_ = &typeid(waveModel);
 };

@@ -39,7 +39,9 @@ timeInstants randomInstants(std::mt19937& random, int size) {
 
 } // namespace
 
-testSea::testSea(double ramp) : waveModel(configWith(ramp)) {}
+testSea::testSea(double ramp) : waveModel(configWith(ramp)) {
+    declareSumOfTrains<testSea>();
+}
 
 void testSea::add(double direction, int count, const double* a, const double* omega,
                   const double* phase) {

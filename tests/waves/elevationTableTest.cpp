@@ -4,10 +4,14 @@
 #include "waves/elevationBound.hpp"
 #include "waves/elevationChunks.hpp"
 #include "waves/elevationKernel.hpp"
+#include "waves/regularWave.hpp"
+#include "waves/waveConfig.hpp"
+#include "waves/waveFactory.hpp"
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <memory>
 #include <sstream>
 #include <tuple>
 
@@ -131,6 +135,41 @@ TEST(elevationTable, isThePlainLoopInOddCases) {
         sea.add(0.1, 1, &amplitude, &omega, &phase);
         expectPlainLoop(sea, x, x, listed.empty() ? timeInstants(0, 0.5, 3) : timeInstants(listed));
     }
+}
+
+/// A tide that rises by the water depth during the ramp, with waves that its surface does not show.
+class risingTide : public regularWave {
+public:
+    using regularWave::regularWave;
+    void setTime(const double& t) override { now_ = t; }
+    void eta(int n, const double* x, const double* y, double* elevation) const override {
+        for (int i = 0; i < n; ++i) {
+            elevation[i] = depth() * rampFactorAt(now_) + x[i] - y[i];
+        }
+    }
+
+private:
+    double now_ = 0;
+};
+
+TEST(elevationTable, asksRegisteredModelsButSumsTheTrainsOfOurOwn) {
+    reader config = configOf("environment.wave = {\namplitude = 1\nfrequency = 1\nphase = 0\n"
+                             "depth = 40\nrampTime = 2\n}\n");
+    std::unique_ptr<waveModel> sea;
+    const auto create = [&](const char* type) {
+        config.inputs.set("environment.wave.type", type);
+        outputOf([&] { sea.reset(waveFactory::create(config)); });
+    };
+    for (const char* type : {"regular", "JONSWAP", "custom"}) {
+        create(type);
+        EXPECT_TRUE(sea->isSumOfTrains()) << type;
+    }
+    waveFactory::getRegistry()["tide"] = waveMaker<risingTide>::create;
+    create("tide");
+    waveFactory::getRegistry().erase("tide");
+    EXPECT_EQ(textOf(writeElevationTable, *sea, {0, 2}, {0, 1}, timeInstants(0, 1, 3)),
+              "0\t0\t1\n1\t20\t21\n2\t40\t41\n");
+    EXPECT_EQ((values{sea->gravity(), sea->density(), sea->rampTime()}), (values{9.81, 1000, 2}));
 }
 
 TEST(elevationTable, signsTheZerosOfTheRestingSea) {

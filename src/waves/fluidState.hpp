@@ -7,13 +7,14 @@
 ///
 /// Positions, velocities and accelerations are blocks of 3n doubles: all x, all y, all z.
 struct fluidState {
+    /// Zeros at `points` points; none for a number below 1.
     explicit fluidState(int points)
         : n(points), positions(3 * size()), velocity(3 * size()), acceleration(3 * size()),
           density(size()), depthBelowSurface(size()) {}
 
-    bool hasKinematics = false; ///< velocities and accelerations are those of the model
-    bool hasDensity = false;    ///< densities and depths are those of the model
-    int n;
+    bool hasKinematics = false;            ///< velocities and accelerations are those of the model
+    bool hasDensity = false;               ///< densities and depths are those of the model
+    int n;                                 ///< number of points
     std::vector<double> positions;         ///< m
     std::vector<double> velocity;          ///< m/s
     std::vector<double> acceleration;      ///< m/s²

@@ -6,20 +6,6 @@
 #include <algorithm>
 #include <iostream>
 
-std::int32_t globals::m_dimensionNumber = 3;
-double globals::m_rhoWater = 1000.0;
-double globals::m_rhoAir = 1.0;
-std::string globals::m_prefix = "environment.";
-std::vector<double> globals::m_g = {0.0, 0.0, -9.81};
-double globals::m_stillWaterLevel = 0.0;
-bool globals::m_isSet = false;
-std::vector<double> globals::m_dimMap(9, 0.0);
-
-globals::globals(int dim, std::vector<double> g, double rhoWater, double rhoAir,
-                 double stillWaterLevel) {
-    set(dim, std::move(g), rhoWater, rhoAir, stillWaterLevel);
-}
-
 namespace {
 
 /// The axis map of `dim` dimensions; only the first axis is mapped for a number beyond 3.
@@ -38,6 +24,20 @@ std::vector<double> axisMap(int dim) {
 }
 
 } // namespace
+
+std::int32_t globals::m_dimensionNumber = 3;
+double globals::m_rhoWater = 1000.0;
+double globals::m_rhoAir = 1.0;
+std::string globals::m_prefix = "environment.";
+std::vector<double> globals::m_g = {0.0, 0.0, -9.81};
+double globals::m_stillWaterLevel = 0.0;
+bool globals::m_isSet = false;
+std::vector<double> globals::m_dimMap(9, 0.0);
+
+globals::globals(int dim, std::vector<double> g, double rhoWater, double rhoAir,
+                 double stillWaterLevel) {
+    set(dim, std::move(g), rhoWater, rhoAir, stillWaterLevel);
+}
 
 void globals::set(int dim, std::vector<double> g, double rhoWater, double rhoAir,
                   double stillWaterLevel) {

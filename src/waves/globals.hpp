@@ -15,12 +15,13 @@ public:
     static std::string m_prefix;           ///< "environment.", in front of the keys
     static std::vector<double> m_g;        ///< {0, 0, -9.81} m/s², upwards positive; never empty
     static double m_stillWaterLevel;       ///< 0 m
-    static bool m_isSet;
+    static bool m_isSet;                   ///< whether `set` has run
     /// The axes of the problem as rows of x, y, z: the identity in three dimensions, x and z in
     /// two. Nine zeros until set.
     static std::vector<double> m_dimMap;
 
     globals() = default;
+    /// The same as `set`.
     globals(int dim, std::vector<double> g, double rhoWater, double rhoAir, double stillWaterLevel);
 
     /// Sets all members and the norm of `matrixOp` to `dim` dimensions; `g` has three components,

@@ -6,13 +6,13 @@ class reader;
 
 namespace sorvik {
 
-/// Ends the run with a fatal error: `name` is a key or a flag, `found` what stands there.
+/// Ends the run with a fatal error: `name` is a key or a flag, `found` its value.
 [[noreturn]] void refuseInput(const std::string& name, const std::string& found,
                               const std::string& expected);
 [[noreturn]] void refuseInput(const std::string& name, double found, const std::string& expected);
 
 /// Ends the run with a fatal error about the value of `key`: its text in the input, or `fallback`
-/// where it is not given.
+/// if it is not given.
 [[noreturn]] void refuseInput(const reader& config, const std::string& key, double fallback,
                               const std::string& expected);
 

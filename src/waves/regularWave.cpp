@@ -18,7 +18,7 @@ struct waveKey {
     double (*quantity)(double value);
 };
 
-/// The first one that the input gives counts.
+/// In the order of precedence.
 const waveKey waveKeys[] = {
     {"period", true, [](double period) { return 2 * sorvik::pi / period; }},
     {"frequency", true, [](double frequency) { return 2 * sorvik::pi * frequency; }},

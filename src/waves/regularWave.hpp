@@ -8,9 +8,9 @@ class regularWave : public waveModel {
 public:
     /// Still water, amplitude 0.
     regularWave() { declareSumOfTrains<regularWave>(); }
-    /// Reads the wave and prints its parameters. Without a period, frequency, length or wave
-    /// number, or with one that is zero or not finite, that is fatal; an amplitude of 0 is warned
-    /// of.
+    /// Reads the wave and prints its parameters. One of period, frequency, length and wave number
+    /// must be given; that none is, or that it is zero or not finite, is fatal. An amplitude of 0
+    /// prints a warning.
     explicit regularWave(const reader& config);
 
     using waveModel::print;

@@ -48,7 +48,7 @@ timeInstants readInstants(const reader& config) {
         refuseInput("The time span of simulation.time.start and simulation.time.end",
                     "from " + numberText(start) + " to " + numberText(end), "a finite one");
     }
-    // From here on a double no longer tells the instants apart.
+    // Beyond it a double cannot number the instants.
     constexpr double maxCount = 0x1p53;
     const double count = std::floor((end - start) / step + 1.0);
     if (count > maxCount) {

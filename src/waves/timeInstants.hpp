@@ -18,6 +18,7 @@ public:
     explicit timeInstants(std::vector<double> instants)
         : even_(false), list_(std::move(instants)) {}
 
+    /// The number of instants.
     std::int64_t count() const {
         return even_ ? evenCount_ : static_cast<std::int64_t>(list_.size());
     }
@@ -27,6 +28,7 @@ public:
                      : list_[static_cast<std::size_t>(i)];
     }
 
+    /// Whether the instants are evenly spaced, not listed.
     bool isEven() const { return even_; }
     /// First instant and distance of evenly spaced instants; 0 for listed ones.
     double start() const { return first_; }
@@ -40,9 +42,9 @@ private:
     std::vector<double> list_;
 };
 
-/// The instants of the run: the first column of the file "time.dat" in the output folder where
-/// there is one, otherwise those of the input's start, end and step. None where the end lies before
-/// the start; a step or a span that cannot be used is fatal.
+/// The instants of the run: the first column of the file "time.dat" in the output folder if there
+/// is one, otherwise those of the input's start, end and step. Empty if the end lies before the
+/// start. A step or a span that cannot be used is fatal.
 timeInstants readInstants(const reader& config);
 
 } // namespace sorvik

@@ -15,19 +15,18 @@ constexpr double deepKh = 4.71238898038469;
 
 } // namespace
 
-waveComponent2D::waveComponent2D(const double& gravity, const double& depth)
-    : g_(gravity), h_(depth) {}
+waveComponent2D::waveComponent2D(const double& g, const double& h) : g_(g), h_(h) {}
 
-waveComponent2D::waveComponent2D(const double& gravity, const double& depth, double amplitude,
-                                 double waveNumber, double omega, double phase)
-    : g_(gravity), h_(depth) {
-    set(amplitude, waveNumber, omega, phase);
+waveComponent2D::waveComponent2D(const double& g, const double& h, double a, double k, double omega,
+                                 double phase)
+    : g_(g), h_(h) {
+    set(a, k, omega, phase);
 }
 
-void waveComponent2D::set(const double& amplitude, const double& waveNumber, const double& omega,
+void waveComponent2D::set(const double& a, const double& k, const double& omega,
                           const double& phase) {
-    a_ = amplitude;
-    k_ = waveNumber;
+    a_ = a;
+    k_ = k;
     w_ = omega;
     phi_ = phase;
     agk_ = a_ * g_ * k_;
@@ -48,8 +47,8 @@ double waveComponent2D::pressureHead(double s, double z) const {
     return a_ * pressureFactor(z) * std::cos(surfaceAngle(s));
 }
 
-void waveComponent2D::kinematics(const double& s, const double& z, double& u, double& vertical,
-                                 double& ax, double& az) const {
+void waveComponent2D::kinematics(const double& s, const double& z, double& u, double& w, double& ax,
+                                 double& az) const {
     const double horizontalFactor = pressureFactor(z);
     const double verticalFactor =
         deep_ ? horizontalFactor : std::sinh(k_ * z + clippedKh_) / coshKh_;
@@ -58,7 +57,7 @@ void waveComponent2D::kinematics(const double& s, const double& z, double& u, do
     const double sinTheta = std::sin(theta);
     const double speed = agk_ / w_;
     u += speed * horizontalFactor * cosTheta;
-    vertical += speed * verticalFactor * sinTheta;
+    w += speed * verticalFactor * sinTheta;
     ax += agk_ * horizontalFactor * sinTheta;
     az -= agk_ * verticalFactor * cosTheta;
 }

@@ -20,10 +20,10 @@ public:
     /// Freezes the wave at the instant `t` [s].
     void setTime(double t) { timePhase_ = w_ * t - phi_; }
 
-    double amplitude() const { return a_; }
-    double waveNumber() const { return k_; }
-    double angularFrequency() const { return w_; }
-    double phase() const { return phi_; }
+    double amplitude() const { return a_; }        ///< m
+    double waveNumber() const { return k_; }       ///< rad/m
+    double angularFrequency() const { return w_; } ///< rad/s
+    double phase() const { return phi_; }          ///< rad
     /// Whether k h is above 3 pi / 2, from where on the sea bed is not felt.
     bool isDeep() const { return deep_; }
 

@@ -11,6 +11,7 @@ class waveModel;
 /// A further model needs one more entry in `makeRegistry`.
 class waveFactory {
 public:
+    /// Makes a new model, owned by the caller.
     using maker = waveModel* (*)(reader&);
 
     /// The models by type name, complete before `main` starts.

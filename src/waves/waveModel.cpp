@@ -18,6 +18,49 @@
 #include <random>
 #include <string>
 
+namespace {
+
+/// Wheeler stretching: the height over the still water level, `z`, of a point between the sea bed
+/// at -h and the surface at `eta`, moved to where its motion is that of a point between -h and 0.
+double stretched(double z, double eta, double h) {
+    return h * (z + h) / (eta + h) - h;
+}
+
+void setStillWaterDensity(int n, const double* z, double* density) {
+    for (int i = 0; i < n; ++i) {
+        const bool isAir = z[i] > globals::m_stillWaterLevel;
+        density[i] = isAir ? globals::m_rhoAir : globals::m_rhoWater;
+    }
+}
+
+/// The blocks of a point set of 3n doubles.
+struct pointBlocks {
+    pointBlocks(std::ptrdiff_t n, const double* positions)
+        : x(positions), y(positions + n), z(positions + 2 * n) {}
+    const double* x;
+    const double* y;
+    const double* z;
+};
+
+int freshSeed() {
+    try {
+        std::random_device device(sorvik::platform::randomSource);
+        // -1 would not reproduce the phases.
+        constexpr unsigned askForFresh = 0xFFFFFFFF;
+        unsigned seed = askForFresh;
+        while (seed == askForFresh) {
+            seed = device();
+        }
+        return static_cast<int>(seed);
+    } catch (const std::exception& error) {
+        printer::fatalError(std::string("Cannot draw a seed for random phases from ") +
+                            sorvik::platform::randomSource + ": " + error.what() +
+                            ". Give one as environment.wave.seed.");
+    }
+}
+
+} // namespace
+
 waveModel::waveModel(const reader& config) {
     const inputMap& inputs = config.inputs;
     const double ground = inputs.read<double>("environment.ground.level", -1000.0);
@@ -83,32 +126,6 @@ void waveModel::eta(int n, const double* x, const double* y, double* elevation) 
         value *= rampFactor_;
     }
 }
-
-namespace {
-
-/// Wheeler stretching: the height over the still water level, `z`, of a point between the sea bed
-/// at -h and the surface at `eta`, moved to where its motion is that of a point between -h and 0.
-double stretched(double z, double eta, double h) {
-    return h * (z + h) / (eta + h) - h;
-}
-
-void setStillWaterDensity(int n, const double* z, double* density) {
-    for (int i = 0; i < n; ++i) {
-        const bool isAir = z[i] > globals::m_stillWaterLevel;
-        density[i] = isAir ? globals::m_rhoAir : globals::m_rhoWater;
-    }
-}
-
-/// The blocks of a point set of 3n doubles.
-struct pointBlocks {
-    pointBlocks(std::ptrdiff_t n, const double* positions)
-        : x(positions), y(positions + n), z(positions + 2 * n) {}
-    const double* x;
-    const double* y;
-    const double* z;
-};
-
-} // namespace
 
 void waveModel::evaluate(fluidState& state) const {
     state.hasKinematics = true;
@@ -181,27 +198,6 @@ void waveModel::pressure(int n, const double* positions, double* pressure) const
         pressure[i] = -z * density_ * gravity_ + rampFactor_ * dynamic;
     }
 }
-
-namespace {
-
-int freshSeed() {
-    try {
-        std::random_device device(sorvik::platform::randomSource);
-        // -1 would not reproduce the phases.
-        constexpr unsigned askForFresh = 0xFFFFFFFF;
-        unsigned seed = askForFresh;
-        while (seed == askForFresh) {
-            seed = device();
-        }
-        return static_cast<int>(seed);
-    } catch (const std::exception& error) {
-        printer::fatalError(std::string("Cannot draw a seed for random phases from ") +
-                            sorvik::platform::randomSource + ": " + error.what() +
-                            ". Give one as environment.wave.seed.");
-    }
-}
-
-} // namespace
 
 int waveModel::uniformPhaseDistribution(int seed, int n, double* phases) {
     if (seed == -1) {

@@ -54,6 +54,7 @@ public:
     /// outputs per phase). The seed -1 draws a fresh one. Returns the seed used.
     static int uniformPhaseDistribution(int seed, int n, double* phases);
 
+    /// The trains, in the order in which they were added.
     const std::vector<waveTrain>& trains() const { return trainList_; }
     /// Whether `eta` is the sum of the trains times `rampFactorAt` the instant of `setTime`, so
     /// that it may be computed without asking the model. Only for classes that

@@ -8,9 +8,9 @@
 #include <cmath>
 #include <iostream>
 
-waveTrain::waveTrain(double directionRadians, double density, double gravity, double depth)
-    : direction_(180 * directionRadians / sorvik::pi), rho_(density), g_(gravity), h_(depth),
-      influence_(depth), cosine_(std::cos(directionRadians)), sine_(std::sin(directionRadians)) {}
+waveTrain::waveTrain(double direction, double rho, double g, double h)
+    : direction_(180 * direction / sorvik::pi), rho_(rho), g_(g), h_(h), influence_(h),
+      cosine_(std::cos(direction)), sine_(std::sin(direction)) {}
 
 double waveTrain::dispersionRelationFrom_w(const double& omega, const double& g, const double& h) {
     constexpr double tolerance = 1e-12;

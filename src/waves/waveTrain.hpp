@@ -30,6 +30,7 @@ public:
     /// Freezes all components at the instant `t` [s].
     void setTime(double t);
 
+    /// The direction of travel [degrees] from the x axis towards y.
     double directionDegrees() const { return direction_; }
     double directionCosine() const { return cosine_; }
     double directionSine() const { return sine_; }
@@ -52,14 +53,13 @@ public:
                          const double& zKinematic) const;
 
     /// Reads direction [degrees] and count, and resets the list to that many neutral components. It
-    /// consumes the values of one component without storing them, and the white space behind. A
-    /// count that memory cannot hold fails the stream.
+    /// consumes the values of one component without storing them, and the white space after them. A
+    /// count that does not fit into memory fails the stream.
     friend std::istream& operator>>(std::istream& in, waveTrain& train);
 
 private:
     /// x cos + y sin: the place of a point along the direction of travel.
     double along(double x, double y) const { return x * cosine_ + y * sine_; }
-    void append(int n, const double* a, const double* k, const double* omega, const double* phase);
     void updateInfluence();
 
     double direction_; ///< degrees

@@ -1,5 +1,6 @@
 #include "waves/waveElevation.hpp"
 
+#include "base/numberText.hpp"
 #include "io/reader.hpp"
 #include "waves/elevationTable.hpp"
 #include "waves/globals.hpp"
@@ -9,8 +10,37 @@
 #include "waves/waveModel.hpp"
 #include "waves/waveProbes.hpp"
 
+#include <algorithm>
 #include <iostream>
 #include <memory>
+
+namespace {
+
+using sorvik::probeRequest;
+
+/// Whether an argument belongs to a list of numbers, rather than being the next flag.
+bool isListed(const char* argument) {
+    return argument[0] != '-' || sorvik::isDigit(argument[1]);
+}
+
+/// The first of -domain with four arguments, -xyFile and -positions.
+probeRequest readProbeFlags(int argc, const char** argv) {
+    int flag = argc;
+    if (reader::findFlag("-domain", argc, argv, flag) && flag + 4 < argc) {
+        return {probeRequest::kind::grid, {argv + flag + 1, argv + flag + 5}};
+    }
+    if (reader::findFlag("-xyFile", argc, argv, flag)) {
+        return {probeRequest::kind::file, {flag + 1 < argc ? argv[flag + 1] : ""}};
+    }
+    if (reader::findFlag("-positions", argc, argv, flag)) {
+        const char** const first = argv + flag + 1;
+        return {probeRequest::kind::positions,
+                {first, std::find_if_not(first, argv + argc, isListed)}};
+    }
+    return {};
+}
+
+} // namespace
 
 int waveElevation(int argc, const char** argv) {
     std::cout << " Running wave elevation post-processing routine to print elevation to file."
@@ -20,7 +50,7 @@ int waveElevation(int argc, const char** argv) {
     globals::set(config);
     const std::unique_ptr<waveModel> model(waveFactory::create(config));
     sorvik::waveProbes probes;
-    if (!sorvik::findProbes(argc, argv, config.outputFolder, probes)) {
+    if (!sorvik::makeProbes(readProbeFlags(argc, argv), config.outputFolder, probes)) {
         return -1;
     }
     const sorvik::timeInstants instants = sorvik::readInstants(config);

@@ -2,7 +2,6 @@
 
 #include "base/memory.hpp"
 #include "base/numberText.hpp"
-#include "io/reader.hpp"
 #include "waves/inputCheck.hpp"
 #include "waves/numericTable.hpp"
 #include "waves/resultFile.hpp"
@@ -28,23 +27,23 @@ struct probeGrid {
     int ny;
 };
 
-double lengthArgument(const char* name, const char* text) {
-    const double length = leadingNumber(text);
+double lengthArgument(const char* name, const std::string& text) {
+    const double length = leadingNumber(text.c_str());
     if (!std::isfinite(length)) {
         refuseInput(name, text, "a finite length");
     }
     return length;
 }
 
-int cellArgument(const char* name, const char* text) {
-    const long cells = std::strtol(text, nullptr, 10);
+int cellArgument(const char* name, const std::string& text) {
+    const long cells = std::strtol(text.c_str(), nullptr, 10);
     if (cells < 1) {
         refuseInput(name, text, "a whole number of at least 1");
     }
     return static_cast<int>(std::min<long>(cells, std::numeric_limits<int>::max()));
 }
 
-probeGrid readGrid(const char** values) {
+probeGrid readGrid(const std::vector<std::string>& values) {
     return {lengthArgument("Xsize of -domain", values[0]),
             lengthArgument("Ysize of -domain", values[1]), cellArgument("nx of -domain", values[2]),
             cellArgument("ny of -domain", values[3])};
@@ -89,39 +88,33 @@ bool readProbes(const std::string& fileName, waveProbes& probes) {
     return true;
 }
 
-/// Whether an argument belongs to a list of numbers, rather than being the next flag.
-bool isListed(const char* argument) {
-    return argument[0] != '-' || isDigit(argument[1]);
-}
-
-/// Takes pairs of x and y up to the next flag; a last one without its y is dropped.
-void takePositions(int count, const char** values, waveProbes& probes) {
-    for (int i = 0; i + 1 < count && isListed(values[i]) && isListed(values[i + 1]); i += 2) {
-        probes.x.push_back(leadingNumber(values[i]));
-        probes.y.push_back(leadingNumber(values[i + 1]));
+void takePositions(const std::vector<std::string>& values, waveProbes& probes) {
+    for (std::size_t i = 0; i + 1 < values.size(); i += 2) {
+        probes.x.push_back(leadingNumber(values[i].c_str()));
+        probes.y.push_back(leadingNumber(values[i + 1].c_str()));
     }
 }
 
 } // namespace
 
-bool findProbes(int argc, const char** argv, const std::string& folder, waveProbes& probes) {
-    int flag = argc;
-    if (reader::findFlag("-domain", argc, argv, flag) && flag + 4 < argc) {
-        const probeGrid grid = readGrid(argv + flag + 1);
+bool makeProbes(const probeRequest& request, const std::string& folder, waveProbes& probes) {
+    switch (request.from) {
+    case probeRequest::kind::grid: {
+        const probeGrid grid = readGrid(request.values);
         appendGrid(grid, probes);
         std::cout << "Wave probes imported " << std::endl;
         writeGrid(grid, folder);
-    } else if (reader::findFlag("-xyFile", argc, argv, flag)) {
-        return readProbes(flag + 1 < argc ? argv[flag + 1] : "", probes);
-    } else if (reader::findFlag("-positions", argc, argv, flag)) {
-        takePositions(argc - flag - 1, argv + flag + 1, probes);
-    } else {
-        std::cout << "Warning: No wave probes specified. Values will be printed for position "
-                     "(X,Y)=(0,0)."
-                  << std::endl;
-        probes.x.push_back(0.0);
-        probes.y.push_back(0.0);
+        return true;
     }
+    case probeRequest::kind::file: return readProbes(request.values.front(), probes);
+    case probeRequest::kind::positions: takePositions(request.values, probes); return true;
+    case probeRequest::kind::origin: break;
+    }
+    std::cout << "Warning: No wave probes specified. Values will be printed for position "
+                 "(X,Y)=(0,0)."
+              << std::endl;
+    probes.x.push_back(0.0);
+    probes.y.push_back(0.0);
     return true;
 }
 

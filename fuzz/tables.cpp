@@ -6,7 +6,8 @@ using namespace sorvik;
 
 void tryText(const std::string& text) {
     std::vector<double> values;
-    const int columns = readNumericTable(fileOf("table", text), values);
+    std::istringstream table(text);
+    const int columns = readNumericTable(table, values);
     double first = 0;
     std::istringstream all(text);
     all >> first;

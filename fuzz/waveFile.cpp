@@ -1,10 +1,14 @@
+#include "waves/waveFile.hpp"
+
 #include "target.hpp"
 #include "waves/customWave.hpp"
-#include "waves/waveConfig.hpp"
 
 void tryText(const std::string& text) {
-    const std::string settings = "environment.wave.useRadians = 1\nenvironment.wave.file = ";
-    const customWave wave(configOf(settings + fileOf("wave", text)));
+    customWave wave;
+    std::istringstream blocks(text);
+    for (sorvik::waveBlock block; sorvik::readWaveBlock(blocks, "wave", block);) {
+        wave.addWaveTrain(block.direction, block.amplitudes, block.frequencies, block.phases, true);
+    }
     // Rows that are missing or differ in length have ended the run.
     std::istringstream in(text);
     std::size_t trains = 0;

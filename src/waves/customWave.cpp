@@ -4,9 +4,9 @@
 #include "base/processEnd.hpp"
 #include "io/printer.hpp"
 #include "io/reader.hpp"
-#include "io/sorvikIO.hpp"
 #include "numerics/matrixOp.hpp"
 #include "waves/angles.hpp"
+#include "waves/waveFile.hpp"
 
 #include <iostream>
 
@@ -50,34 +50,15 @@ void customWave::addWaveTrain(double direction, const std::vector<double>& ampli
     addTrain(direction).setFrom_w(n, amplitudes.data(), frequencies.data(), phases.data());
 }
 
-namespace {
-
-std::vector<double> readRow(std::istream& in, const std::string& fileName, const char* content) {
-    std::string line;
-    if (!std::getline(in, line)) {
-        printer::fatalError("The wave file " + fileName +
-                            " ends within a block, expected a row of " + content +
-                            ": each direction is followed by a row of amplitudes, of "
-                            "frequencies and of phases");
-    }
-    std::vector<double> row;
-    sorvikIO::readLine<double>(line, row);
-    return row;
-}
-
-} // namespace
-
 void customWave::readFile(const std::string& name, bool useRadians) {
     std::ifstream in = sorvik::files::open(name);
     if (!in.is_open()) {
         printer::fatalError("Cannot read the wave file " + name + " of " + prefix + "file");
     }
-    double direction = 0.0;
-    while (in >> direction >> std::ws) {
-        const auto amplitudes = readRow(in, name, "amplitudes");
-        auto frequencies = readRow(in, name, "frequencies");
-        auto phases = readRow(in, name, "phases");
-        addWaveTrain(direction, amplitudes, frequencies, phases, useRadians);
+    sorvik::waveBlock block;
+    while (sorvik::readWaveBlock(in, name, block)) {
+        addWaveTrain(block.direction, block.amplitudes, block.frequencies, block.phases,
+                     useRadians);
     }
     if (in.bad()) {
         printer::fatalError("Cannot read the wave file " + name + " to its end");

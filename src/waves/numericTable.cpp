@@ -7,9 +7,10 @@ namespace sorvik {
 
 int readNumericTable(const std::string& fileName, std::vector<double>& values) {
     std::ifstream in = files::open(fileName);
-    if (!in.is_open()) {
-        return 0;
-    }
+    return in.is_open() ? readNumericTable(in, values) : 0;
+}
+
+int readNumericTable(std::istream& in, std::vector<double>& values) {
     const int columns = sorvikIO::readData<double>(in, values, 0);
     if (in.bad()) {
         return 0;

@@ -5,6 +5,7 @@
 #include "waves/Jonswap.hpp"
 #include "waves/angles.hpp"
 #include "waves/customWave.hpp"
+#include "waves/numericTable.hpp"
 #include "waves/timeInstants.hpp"
 #include "waves/waveConfig.hpp"
 
@@ -24,6 +25,11 @@ TEST(waveModel, isHydrostaticInStillWater) {
     const waveModel model(config);
     EXPECT_EQ(model.stretchingDepth(), 43);
     fluidState state(3);
+    for (const values* block : {&state.positions, &state.velocity, &state.acceleration}) {
+        EXPECT_EQ(*block, values(9));
+    }
+    EXPECT_EQ(state.density, values(3));
+    EXPECT_EQ(state.depthBelowSurface, values(3));
     state.positions = {0, 0, 0, 0, 0, 0, 3, 3 + 1e-9, -7};
     state.velocity.assign(9, 5);
     model.evaluate(state);
@@ -94,7 +100,15 @@ TEST(uniformPhaseDistribution, takesTwoOutputsOfTheGeneratorEach) {
     EXPECT_NE(waveModel::uniformPhaseDistribution(-1, 2, again), seed);
 }
 
+/// The axis map that a process starts with.
+struct firstMap : testing::Environment {
+    inline static values found;
+    void SetUp() override { found = globals::m_dimMap; }
+};
+const auto* const beforeAllTests = testing::AddGlobalTestEnvironment(new firstMap);
+
 TEST(globals, takesTheInputOnceAndRefusesASecondOne) {
+    EXPECT_EQ(firstMap::found, values(9));
     const reader second = configOf("environment.waterDensity = 1\nenvironment.airDensity = 7\n");
     globals::set(configOf("environment.gravity = -9.80665\nenvironment.waterLevel = 2\n"));
     EXPECT_EQ(globals::m_g, (std::vector<double>{0, 0, -9.80665}));
@@ -151,12 +165,27 @@ TEST(Jonswap, hasTheWaveHeightAndTheEnergyOfItsComponents) {
     EXPECT_NEAR(half * 0.1 * pi, 2 * 2 / 16.0, 0.01) << "no factor for the step in the amplitudes";
 }
 
+TEST(Jonswap, hasAHundredComponentsUnlessTold) {
+    const reader config = configOf("");
+    std::unique_ptr<Jonswap> sea;
+    outputOf([&] { sea = std::make_unique<Jonswap>(config); });
+    const auto& list = sea->trains().front().components();
+    ASSERT_EQ(list.size(), 100U);
+    EXPECT_NEAR(list.front().angularFrequency(), 0.01 * 2 * pi, 1e-12);
+    EXPECT_NEAR(list.back().angularFrequency(), 10 * 2 * pi, 1e-12);
+}
+
 TEST(timeInstants, areCountedBeforeTheyAreComputed) {
     const timeInstants many = readInstants(configOf(
         "simulation.time.start = 1\nsimulation.time.end = 1e7\nsimulation.print.dt = 1e-3"));
     EXPECT_EQ(many.count(), 9999999001);
     EXPECT_EQ(many[3], 3 * 1e-3 + 1);
     EXPECT_EQ(readInstants(configOf("")).count(), 2001);
+}
+
+TEST(numericTable, isNoneWhereReadingFails) {
+    values table;
+    EXPECT_EQ(readNumericTable("/proc/self/mem", table), 0) << "opens, but cannot be read";
 }
 
 } // namespace

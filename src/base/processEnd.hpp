@@ -14,7 +14,7 @@ endHandler setEndHandler(endHandler handler);
 
 /// What `throwProcessEnd` throws.
 struct processEnded {
-    int status;
+    int status; ///< that the process was to end with
 };
 
 /// An end handler that throws `processEnded`.

@@ -61,9 +61,11 @@ public:
     static std::string removeExtension(const std::string& name);
 };
 
+/// The text of the value, unchanged.
 template <>
 std::string reader::mustRead<std::string>(const std::string& key,
                                           const std::string& alternative) const;
+/// The numbers of the value, as `sorvikIO::parse` reads them.
 template <>
 std::vector<double> reader::mustRead<std::vector<double>>(const std::string& key,
                                                           const std::string& alternative) const;

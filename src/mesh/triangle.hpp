@@ -11,9 +11,11 @@
 /// with corners and normal after every constructor, `update`, `shift` and `rotate`.
 class triangle {
 public:
-    v3<float> normal; ///< unit, outward; not finite for a panel without area
-    v3<float> vertexA, vertexB, vertexC;
-    v3<float> centroid;
+    v3<float> normal;     ///< unit, outward; not finite for a panel without area
+    v3<float> vertexA;    ///< first corner
+    v3<float> vertexB;    ///< second corner
+    v3<float> vertexC;    ///< third corner
+    v3<float> centroid;   ///< mean of the corners
     double area = 0;      ///< m²
     v3<float> areaVector; ///< area times normal
     /// Row-major 3 x 3: the mean of d dᵀ over the panel, d being the distance from the centroid

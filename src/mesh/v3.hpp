@@ -10,9 +10,9 @@
 /// T.
 template <class T>
 struct v3 {
-    T x = T(0);
-    T y = T(0);
-    T z = T(0);
+    T x = T(0); ///< first component
+    T y = T(0); ///< second component
+    T z = T(0); ///< third component
 
     /// Outer product of this vector with `b`, row-major 3 x 3: M[3i + j] = this_i * b_j, formed in
     /// T and widened. It is added to M if `add`, else overwrites it. A size of M other than 9 ends
@@ -20,23 +20,25 @@ struct v3 {
     void OP(const v3& b, std::vector<double>& M, bool add) const;
 };
 
-// Sums, differences and products with a number, by component.
-
+/// The sum by component.
 template <class T>
 v3<T> operator+(const v3<T>& a, const v3<T>& b) {
     return {a.x + b.x, a.y + b.y, a.z + b.z};
 }
 
+/// The difference by component.
 template <class T>
 v3<T> operator-(const v3<T>& a, const v3<T>& b) {
     return {a.x - b.x, a.y - b.y, a.z - b.z};
 }
 
+/// The product of each component with `s`.
 template <class T>
 v3<T> operator*(T s, const v3<T>& a) {
     return {s * a.x, s * a.y, s * a.z};
 }
 
+/// The quotient of each component and `s`.
 template <class T>
 v3<T> operator/(const v3<T>& a, T s) {
     return {a.x / s, a.y / s, a.z / s};

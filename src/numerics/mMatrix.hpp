@@ -7,8 +7,8 @@
 /// The storage must outlive it. Indices start at 0 and are not checked.
 class mMatrix {
 public:
-    int rows = 0;
-    int cols = 0;
+    int rows = 0;           ///< number of rows
+    int cols = 0;           ///< number of columns
     double* data = nullptr; ///< rows * cols doubles, not owned
 
     /// An empty matrix.
@@ -21,6 +21,7 @@ public:
     /// process as `checkSize` does.
     mMatrix(int rowCount, int colCount, std::vector<double>& storage, int offset = 0);
 
+    /// Copies refer to the same entries.
     mMatrix(const mMatrix&) = default;
     mMatrix& operator=(const mMatrix&) = default;
     virtual ~mMatrix() = default;

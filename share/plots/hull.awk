@@ -2,24 +2,40 @@
 #     awk -f hull.awk WETTED.dat HULL.gdf
 # Draws only the part of the hull above the top of the wetted mesh. The waterline consists of the sides
 # with both ends at that height that belong to a single wetted panel. Insides are darker.
+# It ends with a message if one of the files is not such a mesh. It uses no mathematical functions: awk
+# of BusyBox may lack them.
+function stop(reason) { print reason | "cat >&2"; failed = 1; exit 1 }
 BEGIN {
-    degree = atan2(0, -1) / 180
-    ca = cos(30 * degree); sa = sin(30 * degree) # the viewer stands at the azimuth -120 degrees
-    ce = cos(25 * degree); se = sin(25 * degree) # and 25 degrees above the water
+    ca = 0.866025403784438647; sa = 0.5 # the viewer stands at the azimuth -120 degrees
+    ce = 0.906307787036649963; se = 0.422618261740699436 # and 25 degrees above the water
     order = "LC_ALL=C sort -k1,1gr | cut -d' ' -f2-"
 }
+NR == FNR && FNR == 1 && ($1 != 2 || $2 != 0) { stop(FILENAME " is no Nemoh mesh of a whole hull; -meshConvert writes one") }
 NR == FNR && FNR > 1 && $1 == 0 { ++part }
-NR == FNR && FNR > 1 && $1 > 0 && !part { node($1, $2, $3, $4); if ($4 > level || !wetted++) level = $4 }
-NR == FNR && FNR > 1 && $1 > 0 && part { panel($1, $2, $3) }
+NR == FNR && FNR > 1 && $1 > 0 && !part { node($1, $2, $3, $4) }
+NR == FNR && FNR > 1 && $1 > 0 && part { if (panel($1, $2, $3)) { wet($1); wet($2); wet($3) } }
+NR > FNR && FNR == 1 && !panels { stop(ARGV[1] " has no panels: does the hull reach the water?") }
+NR > FNR && FNR == 4 { announced = $1; emerges = 0 }
 NR > FNR && FNR > 4 {
+    if (NF != 12) stop(FILENAME ", line " FNR ": expected the 12 numbers of a panel as -meshConvert writes them, found " NF)
     for (i = 1; i < 9; i += 3) node(--fresh, $i, $(i + 1), $(i + 2)) # below zero: of the hull
     panel(fresh + 2, fresh + 1, fresh)
 }
 
+function wet(i) {
+    if (!wetted++) level = keel = z[i]
+    if (z[i] > level) level = z[i]
+    if (z[i] < keel) keel = z[i]
+}
 function node(i, a, b, c) { x[i] = a; y[i] = b; z[i] = c }
+function same(a, b) { return x[a] == x[b] && y[a] == y[b] && z[a] == z[b] }
+# Adds a panel and returns 1; omits one without area.
 function panel(a, b, c) {
+    if (same(a, b) || same(b, c) || same(c, a)) return 0
     ++panels; A[panels] = a; B[panels] = b; C[panels] = c
     side[a, b]; side[b, c]; side[c, a]
+    if (z[a] > level + 1e-4 || z[b] > level + 1e-4 || z[c] > level + 1e-4) emerges = 1
+    return 1
 }
 
 # Appends a point to the current polygon.
@@ -54,6 +70,9 @@ function waterline(a, b) {
     draw("fillstyle empty border rgb waterlineColour linewidth 2.5", facing ? 10 * size : size / 400)
 }
 END {
+    if (failed) exit 1
+    if (fresh != -3 * announced || !announced)
+        stop(ARGV[2] " has " -fresh / 3 " panels, its line 4 announces \"" announced "\"")
     for (i = 1; i <= panels; ++i) {
         corners = depth = 0; dry = A[i] < 0
         follow(A[i], B[i], dry); follow(B[i], C[i], dry); follow(C[i], A[i], dry)
@@ -68,6 +87,7 @@ END {
     }
     close(order)
     printf "left = %g; right = %g; low = %g; high = %g; level = %g\n", left, right, low, high, level
-    printf "length = %g; breadth = %g; depth = %g\n", x1 - x0, y1 - y0, z1 - z0
+    printf "length = %g; breadth = %g; depth = %g; draught = %g; emerges = %d\n", \
+        x1 - x0, y1 - y0, z1 - z0, level - keel, emerges
     printf "ca = %g; sa = %g; ce = %g; se = %g\n", ca, sa, ce, se
 }

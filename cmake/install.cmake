@@ -18,8 +18,13 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/sorvikConfigVersion.cmake
 install(FILES ${PROJECT_BINARY_DIR}/sorvikConfigVersion.cmake DESTINATION ${configFolder})
 
 install(PROGRAMS tools/sorvik-run TYPE BIN)
-configure_file(tools/sorvik-run.1.in sorvik-run.1 @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/sorvik-run.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+# It has the version, and draws beside the program in the build folder as well.
+configure_file(tools/sorvik-plot sorvik-plot @ONLY USE_SOURCE_PERMISSIONS)
+install(PROGRAMS ${PROJECT_BINARY_DIR}/sorvik-plot TYPE BIN)
+foreach(command IN ITEMS sorvik-run sorvik-plot)
+  configure_file(tools/${command}.1.in ${command}.1 @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/${command}.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+endforeach()
 install(FILES README.md CHANGELOG.md CITATION.cff TYPE DOC)
 install(DIRECTORY docs/ TYPE DOC FILES_MATCHING PATTERN "*.md" PATTERN "*.svg")
 set(dataFolder ${CMAKE_INSTALL_DATADIR}/sorvikPre)
@@ -33,4 +38,7 @@ foreach(command IN ITEMS sorvikPre sorvik-run)
   install(FILES ${completions}/${command}.fish
     DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
 endforeach()
-install(FILES ${completions}/_sorvikPre DESTINATION ${SORVIK_ZSH_COMPLETIONS})
+install(FILES ${completions}/sorvik-plot.bash RENAME sorvik-plot
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
+install(FILES ${completions}/sorvik-plot.fish DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
+install(FILES ${completions}/_sorvikPre ${completions}/_sorvik-plot DESTINATION ${SORVIK_ZSH_COMPLETIONS})

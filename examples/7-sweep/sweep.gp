@@ -1,4 +1,8 @@
 # Draws sweep.tsv, the table of ./collect, as sweep.svg. Cases without results have no point.
+if (system("test -s sweep.tsv || echo none") ne "") {
+    print "sweep.tsv is missing or empty: expected the table that ./collect prints"
+    exit status 1
+}
 set terminal svg size 900,520 font "sans-serif,15" background "#ffffff" linewidth 1.4
 set output "sweep.svg"
 set datafile separator tab

@@ -47,7 +47,7 @@ set xrange [0:3.2 * peak]
 set yrange [0:*]
 set samples 1000
 set key top right
-curve = sprintf("JONSWAP, Hs = %g m, fp = %g Hz, gamma = %g", Hs, fp, gamma)
+curve = sprintf("JONSWAP, Hs = %.4g m, fp = %.4g Hz, gamma = %g", Hs, fp, gamma)
 if (segments > 1) {
     plot $signal using 1:2 with lines linewidth 1.6 linecolor rgb colour[1] title "signal of the probe", \
         Hs > 0 ? scale * shape(x) : NaN with lines linewidth 1.6 linecolor rgb colour[2] title Hs > 0 ? curve : ""

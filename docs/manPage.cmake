@@ -1,6 +1,6 @@
 # Run as a script: writes PAGE, the manual page of VERSION and DATE, from manual.md with PANDOC.
 execute_process(
-  COMMAND ${PANDOC} --from markdown_strict+pipe_tables+backtick_code_blocks --to man
+  COMMAND ${PANDOC} --from markdown_strict+pipe_tables+backtick_code_blocks+all_symbols_escapable --to man
     --shift-heading-level-by=-1 --template ${CMAKE_CURRENT_LIST_DIR}/manPage.template
     --lua-filter ${CMAKE_CURRENT_LIST_DIR}/manPage.lua
     --variable version=${VERSION} --variable date=${DATE} ${CMAKE_CURRENT_LIST_DIR}/manual.md

@@ -1,27 +1,29 @@
 % A barge on two mooring lines, in irregular waves. One entry a line.
 environment = {
-    waterDepth   = 60          % m
     waterDensity = 1025        % kg/m3
     gravity      = -9.81
     ground = {
-        level     = -60
+        level     = -60        % m
         stiffness = 3e6
     }
     wave = {
-        type      = JONSWAP
-        Hs        = 2.5        % significant wave height, m
-        fp        = 0.11       % peak frequency, Hz
-        gamma     = 3.3
-        seed      = 42
-        direction = 30         % degrees from the x axis
+        type       = JONSWAP
+        Hs         = 0.255831  % for a sea of 2.5 m: 2.5 m * sqrt(2 pi / 600 s)
+        fp         = 0.11      % peak frequency, Hz
+        gamma      = 3.3
+        f0         = 0.055     % Hz
+        f1         = 0.55      % Hz
+        components = 298       % every 1/600 Hz: the sea repeats itself after 600 s
+        seed       = 42
+        direction  = 30        % degrees from the x axis
     }
 }
 
 hydroBody1 = {
-    mass     = 98400
+    mass     = 49200            % kg, for a draught of 1.5 m
     position = [0, 0, 0]
     bemInput = {
-        meshName = "hulls/barge.stl"
+        meshName = ../1-hull/barge.stl
         position = [0, 0, 0]
     }
 }

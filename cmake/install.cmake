@@ -25,10 +25,8 @@ foreach(command IN ITEMS sorvik-run sorvik-plot)
   configure_file(tools/${command}.1.in ${command}.1 @ONLY)
   install(FILES ${PROJECT_BINARY_DIR}/${command}.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 endforeach()
-install(FILES README.md CHANGELOG.md CITATION.cff TYPE DOC)
-install(DIRECTORY docs/ TYPE DOC FILES_MATCHING PATTERN "*.md" PATTERN "*.svg")
-set(dataFolder ${CMAKE_INSTALL_DATADIR}/sorvikPre)
-install(DIRECTORY examples share/plots DESTINATION ${dataFolder} USE_SOURCE_PERMISSIONS)
+include(cmake/installDocuments.cmake)
+install(DIRECTORY share/plots DESTINATION ${CMAKE_INSTALL_DATADIR}/sorvikPre USE_SOURCE_PERMISSIONS)
 
 # Shells load a completion by the name of the command.
 set(completions share/completions)

@@ -1,0 +1,31 @@
+# Installs README, changelog, manual, tutorial and examples in the folders that they have in a checkout, so
+# that links hold. What stands between the marks is for a checkout alone and is left out:
+set(mark "<!-- checkout -->\n")
+set(endMark "<!-- /checkout -->\n")
+
+file(GLOB_RECURSE pages RELATIVE ${PROJECT_SOURCE_DIR} CONFIGURE_DEPENDS
+  ${PROJECT_SOURCE_DIR}/docs/*.md ${PROJECT_SOURCE_DIR}/examples/*.md)
+list(REMOVE_ITEM pages docs/testing.md)
+list(APPEND pages README.md CHANGELOG.md)
+set(installed ${PROJECT_BINARY_DIR}/installed)
+file(REMOVE_RECURSE ${installed})
+foreach(page IN LISTS pages)
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${page})
+  file(READ ${page} text)
+  string(FIND "${text}" "${mark}" begin)
+  while(NOT begin EQUAL -1)
+    string(SUBSTRING "${text}" 0 ${begin} head)
+    string(FIND "${text}" "${endMark}" end)
+    string(LENGTH "${endMark}" length)
+    math(EXPR end "${end} + ${length}")
+    string(SUBSTRING "${text}" ${end} -1 tail)
+    set(text "${head}${tail}")
+    string(FIND "${text}" "${mark}" begin)
+  endwhile()
+  file(WRITE ${installed}/${page} "${text}")
+endforeach()
+
+install(DIRECTORY ${installed}/ TYPE DOC)
+install(FILES CITATION.cff TYPE DOC)
+install(DIRECTORY docs/pictures DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs)
+install(DIRECTORY examples TYPE DOC USE_SOURCE_PERMISSIONS PATTERN *.md EXCLUDE)

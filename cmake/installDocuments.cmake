@@ -1,5 +1,5 @@
 # Installs README, changelog, manual, tutorial and examples in the folders that they have in a checkout, so
-# that links hold. What stands between the marks is for a checkout alone and is left out:
+# that links hold. Text between the marks applies to a checkout only and is left out:
 set(mark "<!-- checkout -->\n")
 set(endMark "<!-- /checkout -->\n")
 

@@ -1,6 +1,6 @@
-# The packages that `cpack` makes, by scripts/package: the same bytes in every folder.
+# The packages that scripts/package makes with `cpack`: the same bytes in every folder.
 set(SORVIK_MAINTAINER "sorvikPre developers <sorvikpre@packages.invalid>"
-    CACHE STRING "Who answers for the Debian package")
+    CACHE STRING "Maintainer of the Debian package")
 set(CPACK_GENERATOR DEB TGZ)
 set(CPACK_PACKAGE_NAME sorvikPre)
 set(CPACK_PACKAGE_VENDOR "sorvikPre developers")

@@ -1,7 +1,7 @@
-# CPack runs this behind packing: takes out of the package what depends on the folder and its disk.
-# SOURCE_DATE_EPOCH gives the times.
+# CPack runs this after packing. It removes from the package what depends on the folder and its disk, and sets
+# all times to SOURCE_DATE_EPOCH.
 
-# Lists names as the disk does, with their owners.
+# An archive lists names in the order of the disk, and their owners.
 function(settleArchive archive)
   get_filename_component(parent ${CPACK_TEMPORARY_DIRECTORY} DIRECTORY)
   get_filename_component(name ${CPACK_TEMPORARY_DIRECTORY} NAME)
@@ -11,7 +11,7 @@ function(settleArchive archive)
     COMMAND gzip -9n OUTPUT_FILE ${archive} COMMAND_ERROR_IS_FATAL ANY)
 endfunction()
 
-# Counts folders in its installed size, which every kind of disk stores in its way.
+# A .deb counts folders in its installed size, and their size depends on the disk.
 function(settleDeb archive)
   set(tree ${CPACK_TOPLEVEL_DIRECTORY}/deb)
   file(REMOVE_RECURSE ${tree})

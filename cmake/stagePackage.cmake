@@ -9,7 +9,7 @@ function(addDebianFiles)
   file(WRITE ${documents}/changelog.Debian
 "${CPACK_DEBIAN_PACKAGE_NAME} (${version}) unstable; urgency=medium
 
-  * Version ${CPACK_PACKAGE_VERSION}; changelog.gz tells what is new.
+  * Version ${CPACK_PACKAGE_VERSION}; see changelog.gz.
 
  -- ${CPACK_PACKAGE_CONTACT}  ${now}
 ")

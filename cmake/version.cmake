@@ -1,4 +1,4 @@
-# The version and its date stand in CITATION.cff alone.
+# CITATION.cff alone holds the version and its date.
 foreach(key IN ITEMS version date-released)
   file(STRINGS CITATION.cff line REGEX "^${key}: ")
   string(REGEX REPLACE ".*: *" "" citation_${key} "${line}")

@@ -5,6 +5,6 @@ execute_process(
     --lua-filter ${CMAKE_CURRENT_LIST_DIR}/manPage.lua
     --variable version=${VERSION} --variable date=${DATE} ${CMAKE_CURRENT_LIST_DIR}/manual.md
   OUTPUT_VARIABLE page COMMAND_ERROR_IS_FATAL ANY)
-# Long tables run over pages: kept together, they would bring gaps.
+# Long tables may break across pages; unbroken ones would leave gaps.
 string(REPLACE "\ntab(@);" "\nnokeep tab(@);" page "${page}")
 file(WRITE ${PAGE} "${page}")

@@ -18,7 +18,7 @@ local function Code(code)
     return bold(escape(code.text))
 end
 
---- Long names may break in narrow columns, behind a point, a slash, a colon or an underscore.
+--- Long names may break in narrow columns, after a point, a slash, a colon or an underscore.
 local function narrowCode(code)
     return bold((escape(code.text):gsub("([%w_:][./_:])(%w)", "%1\\:%2")))
 end

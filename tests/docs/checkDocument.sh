@@ -1,15 +1,15 @@
 #!/usr/bin/env bash
-# Runs the commands that a document shows, in a copy of the checkout, and compares what they say and
-# the pictures that they draw.
-#     checkDocument.sh PROGRAM DOCUMENT [--update]      --update puts what differs into the checkout
+# Runs the commands that a document shows, in a copy of the checkout, and compares what they print
+# and the pictures that they draw.
+#     checkDocument.sh PROGRAM DOCUMENT [--update]      --update writes the differences into the checkout
 set -euo pipefail
 root=$(cd "$(dirname "$0")/../.." && pwd)
 document=$2
 update=${3:-}
 failures=0
 
-# Commands stand in console fences, which are run; elsewhere only synopses (with a WORD in capitals
-# or brackets) and scripts, which CI runs.
+# Commands are in console fences, which are run. Elsewhere there are only synopses (with a WORD in capitals
+# or brackets) and scripts that CI runs.
 awk -f "$root/tests/docs/unexecuted.awk" "$root/$document" | while read -r command rest; do
     case $command in
     .ci/run) continue ;;
@@ -32,7 +32,7 @@ awk -f "$root/tests/docs/rerun.awk" "$root/$document" >"$scratch/commands"
 export LC_ALL=C PATH=$scratch/build:$PATH said=$scratch/said
 (cd "$scratch/$folder" && sh "$scratch/commands") >"$scratch/anew"
 
-# compare COMMITTED NEW: the text of a document, or a picture of this gnuplot.
+# compare COMMITTED NEW: compares the text of a document, or a picture drawn by the same gnuplot.
 compare() {
     if [ -n "$update" ]; then cp "$2" "$1"; else diff -u "$1" "$2" || failures=1; fi
 }

@@ -1,14 +1,14 @@
 #!/usr/bin/env python3
-"""completeness.py SRC DOCUMENT...: fails for each key, flag and text in SRC that the documents do not hold."""
+"""completeness.py SRC DOCUMENT...: lists the keys, flags and texts in SRC that the documents lack."""
 import pathlib
 import re
 import sys
 
 TOKEN = re.compile(r"""//[^\n]*|'(?:\\.|[^'\\\n])+'|((?:"(?:\\.|[^"\\\n])*"\s*)+)""")
-# Nobody meets these: names of processors, of inputs that have none, a sentinel, an assertion.
+# A user never sees these: processors, names of inputs without a name, a sentinel, an assertion.
 SILENT = {"avx2", "avx512f", "/dev/null", "inputMap.txt", "sorvikInput.m", "hello",
           "a corner reaches into two cells along an axis"}
-# Keys that the code puts together from a prefix and a name.
+# Keys that the code joins from a prefix and a name.
 BUILT = [("waves", r'prefix \+ "(\w+)"', "environment.wave."), ("waves", r'\{"(\w+)", (?:true|false)', "environment.wave."),
          ("waves", r'read\("(\w+)"', "environment."), ("nemoh", r'prefix \+ "(\w+)"', "hydroBodyB.bemInput.")]
 
@@ -29,5 +29,5 @@ for file in sorted(folder.rglob("*.[ch]pp")):
     lines = [plain(line) for t in texts if t not in SILENT for line in t.split(r"\n") if re.search(r"\w{3}", line)]
     missing += [f"{file}: {w}" for w in wanted if w not in told] + [f"{file}: {t}" for t in lines if t not in words]
     found += len(wanted) + len(lines)
-print("\n".join(missing) or f"{found} texts are told.")
+print("\n".join(missing) or f"{found} texts are documented.")
 sys.exit(bool(missing) or found < 300)

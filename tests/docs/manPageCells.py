@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""manPageCells.py MANUAL PAGE: fails for each table cell of the manual that its page lacks."""
+"""manPageCells.py MANUAL PAGE: lists the table cells of the manual that its page lacks."""
 import pathlib
 import re
 import sys

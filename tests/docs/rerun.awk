@@ -1,5 +1,5 @@
-# Makes of a document a shell script that prints it anew: its text as it stands, and below the
-# commands of its console fences what they say now, with a status other than 0 as [STATUS].
+# Turns a document into a shell script that prints the document with new output: its text unchanged, and below
+# each command of its console fences what it prints now, with an exit status other than 0 as [STATUS].
 function quoted(text) { gsub(/'/, "'\\''", text); return "'" text "'" }
 function flush_command() {
     if (command == "") return

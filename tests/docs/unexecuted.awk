@@ -1,4 +1,4 @@
-# Lists the command lines of a document that stand outside its console fences and are no synopses.
+# Lists the command lines of a document outside its console fences, except synopses.
 /^```/ { fence = fence == "" ? (length($0) > 3 ? substr($0, 4) : "text") : ""; next }
 fence == "console" || (fence == "" && !/^    /) { next }
 { sub(/^ +/, "") }

@@ -6,7 +6,7 @@ import subprocess
 import sys
 import tempfile
 
-FOLDERS = r"(?:scripts|share(?!/plots)|docs|examples|tools|build[\w-]*|src|tests|cmake|fuzz|bench|\.ci)"
+FOLDERS = r"(?:scripts|share|docs|examples|tools|build[\w-]*|src|tests|cmake|fuzz|bench|\.ci)"
 with tempfile.TemporaryDirectory() as name:
     prefix = pathlib.Path(name)
     subprocess.run([sys.argv[1], "--install", sys.argv[2], "--prefix", name], check=True, stdout=subprocess.DEVNULL)

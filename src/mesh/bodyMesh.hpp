@@ -54,7 +54,8 @@ public:
     void rotate();
     /// The area of all panels [m²].
     double surfaceArea() const;
-    /// Completes a half hull that is symmetric about the plane x = 0 or y = 0.
+    /// Completes a half hull that is symmetric about the plane x = 0, or y = 0: with n = `nFaces`,
+    /// panel n + i of the 2n becomes the image of panel i. Panels from n on are lost.
     void mirrorX();
     void mirrorY();
     /// Inertia matrix (row-major 3 x 3, about the mesh's zero) of `mass` [kg] spread evenly over

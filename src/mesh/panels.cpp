@@ -1,9 +1,13 @@
 #include "mesh/panels.hpp"
 
+#include <algorithm>
+#include <cstddef>
+
 namespace sorvik {
 
 void panelStore::mirror(float v3<float>::*axis) const {
-    const auto half = static_cast<std::size_t>(nFaces);
+    const auto half = static_cast<std::size_t>(std::max(nFaces, 0));
+    faces.resize(half);
     faces.reserve(2 * half);
     for (std::size_t i = 0; i < half; ++i) {
         v3<float> a = faces[i].vertexA;
@@ -14,7 +18,7 @@ void panelStore::mirror(float v3<float>::*axis) const {
         c.*axis = -(c.*axis);
         faces.emplace_back(a, c, b);
     }
-    nFaces *= 2;
+    nFaces = static_cast<int>(faces.size());
 }
 
 } // namespace sorvik

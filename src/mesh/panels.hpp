@@ -2,7 +2,6 @@
 
 #include "mesh/triangle.hpp"
 
-#include <cstddef>
 #include <vector>
 
 namespace sorvik {
@@ -13,9 +12,11 @@ struct panelStore {
     std::vector<triangle>& faces;
     int& nFaces; ///< the number of panels read, which every reader sets
 
-    /// Completes a half hull that is symmetric about the plane where the coordinate `axis` is 0:
-    /// appends the mirror image of each of the first `nFaces` panels and doubles `nFaces`. The
-    /// images have the reverse order of corners, so that their normals point outwards too.
+    /// Completes a half hull that is symmetric about the plane where the coordinate `axis` is 0.
+    ///
+    /// With n = `nFaces`, there are 2n panels afterwards: panel n + i is the image of panel i, with
+    /// the reverse order of corners, so that its normal points outwards too. Panels from n on are
+    /// lost; where fewer than n are there, `triangle()` stands for the others.
     void mirror(float v3<float>::*axis) const;
 };
 

@@ -125,18 +125,24 @@ TEST(bodyMesh, movesAndTurns) {
     EXPECT_EQ(of(mesh.faces[0].vertexA), numbers({-8, -19, -1.5}));
 }
 
-TEST(bodyMesh, mirrorsNormals) {
+TEST(bodyMesh, mirrorsThePanelsThatItCounts) {
     bodyMesh mesh;
-    fillMesh(mesh, {triangle({0, 1, 0}, {0, 2, 0}, {3, 1, -1})});
+    fillMesh(mesh, {triangle({0, 1, 0}, {0, 2, 0}, {3, 1, -1}), triangle()});
+    mesh.nFaces = 1;
     mesh.mirrorY();
     mesh.mirrorX();
     const numbers n = of(mesh.faces[0].normal);
     const double signs[][2] = {{1, 1}, {1, -1}, {-1, 1}, {-1, -1}};
+    EXPECT_EQ(std::pair(mesh.nFaces, mesh.faces.size()), std::pair(4, std::size_t(4)));
     for (std::size_t i = 0; i < 4; ++i) {
         EXPECT_EQ(of(mesh.faces.at(i).normal),
                   numbers({signs[i][0] * n[0], signs[i][1] * n[1], n[2]}))
             << i;
     }
+    mesh.nFaces = 6;
+    mesh.mirrorX();
+    EXPECT_EQ(mesh.faces.size(), 12U);
+    EXPECT_EQ(of(mesh.faces.at(6 + 5).vertexB), numbers({-0.0, 1, 0}));
 }
 
 TEST(bodyMesh, floatsByArchimedes) {

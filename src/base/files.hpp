@@ -10,7 +10,7 @@ namespace sorvik::files {
 /// a stream that is not open.
 std::ifstream open(const std::string& path);
 
-/// Whether `open` opens the file.
+/// Whether `open` opens the file. A named pipe counts as one that it opens, and is not opened.
 bool canOpen(const std::string& path);
 
 /// Opens a file for writing and empties it. One that cannot be written gives a stream that is not

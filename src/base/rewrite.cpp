@@ -8,7 +8,8 @@ namespace sorvik {
 
 std::string rewriting::placeBeside(const std::string& source, const std::string& target) {
     std::error_code failed;
-    if (!fs::equivalent(source, target, failed)) {
+    // A pipe or device keeps nothing that could be lost.
+    if (!fs::equivalent(source, target, failed) || !fs::is_regular_file(target, failed)) {
         return {};
     }
     // A link stays a link to the file that is replaced.

@@ -1,5 +1,6 @@
 #include "mesh/stlFormat.hpp"
 
+#include "base/classicText.hpp"
 #include "base/littleEndian.hpp"
 #include "base/memory.hpp"
 #include "io/printer.hpp"
@@ -10,7 +11,9 @@
 #include <cstring>
 #include <iostream>
 #include <limits>
+#include <streambuf>
 #include <string_view>
+#include <utility>
 
 // Binary, little-endian: 80 bytes of header, the number of facets in 4 bytes, 50 bytes a facet:
 // normal, A, B, C (12 floats) and 2 bytes of attribute.
@@ -140,20 +143,21 @@ triangle readFacet(textScanner& in) {
     return triangle(values);
 }
 
-/// Whether a stream can return to a place that it gave: a pipe gives none, nor what has failed.
+/// Whether a stream buffer gave a place to return to: a pipe gives none.
 bool isPlace(std::istream::pos_type place) {
     return place != std::istream::pos_type(-1);
 }
 
-/// The length of what can be rewound, 0 for what cannot. The stream stays where it is.
+/// How much is left of a stream that can be rewound; 0 for pipes and devices, which cannot. The
+/// stream stays as it is.
 std::size_t lengthOf(std::istream& in) {
-    const auto here = in.tellg();
+    std::streambuf& buffer = *in.rdbuf();
+    const std::istream::pos_type here = buffer.pubseekoff(0, std::ios::cur, std::ios::in);
     if (!isPlace(here)) {
         return 0;
     }
-    in.seekg(0, std::ios::end);
-    const auto end = in.tellg();
-    in.seekg(here);
+    const std::istream::pos_type end = buffer.pubseekoff(0, std::ios::end, std::ios::in);
+    buffer.pubseekpos(here, std::ios::in);
     return end > here ? static_cast<std::size_t>(end - here) : 0;
 }
 
@@ -206,6 +210,43 @@ bool lineHolds(std::istream& in, word small, word capital) {
         isFound = isFound || last == small || last == capital;
     }
     return isFound;
+}
+
+/// The first two lines, as far as they lie within `mostHead` characters.
+std::string readHead(std::istream& in) {
+    constexpr std::size_t mostHead = std::size_t(1) << 20;
+    std::string head;
+    int lines = 0;
+    for (char c = 0; lines < 2 && head.size() < mostHead && in.get(c);) {
+        head += c;
+        lines += c == '\n' ? 1 : 0;
+    }
+    return head;
+}
+
+/// What was read of a stream, followed by the rest of it.
+class joinedBuffer : public std::streambuf {
+public:
+    joinedBuffer(std::string head, std::istream& rest) : block_(std::move(head)), rest_(rest) {
+        setg(block_.data(), block_.data(), block_.data() + block_.size());
+    }
+
+protected:
+    int_type underflow() override {
+        constexpr std::size_t blockSize = std::size_t(1) << 16;
+        block_.resize(blockSize);
+        rest_.read(block_.data(), blockSize);
+        setg(block_.data(), block_.data(), block_.data() + rest_.gcount());
+        return rest_.gcount() == 0 ? traits_type::eof() : traits_type::to_int_type(block_[0]);
+    }
+
+private:
+    std::string block_;
+    std::istream& rest_;
+};
+
+bool readAs(bool binary, std::istream& in, const std::string& name, panelStore panels) {
+    return binary ? readBinary(in, name, panels) : readAscii(in, name, panels);
 }
 
 } // namespace
@@ -261,7 +302,14 @@ bool readBinary(std::istream& in, const std::string& name, panelStore panels) {
 }
 
 bool read(std::istream& in, const std::string& name, panelStore panels) {
-    return isBinary(in) ? readBinary(in, name, panels) : readAscii(in, name, panels);
+    if (lengthOf(in) > 0) {
+        return readAs(isBinary(in), in, name, panels);
+    }
+    const std::string head = readHead(in);
+    classicText lines(head);
+    joinedBuffer buffer(head, in);
+    std::istream whole(&buffer);
+    return readAs(isBinary(lines), whole, name, panels);
 }
 
 void writeAscii(std::ostream& stream, const panelView& panels) {

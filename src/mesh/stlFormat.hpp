@@ -25,7 +25,8 @@ bool readAscii(std::istream& in, const std::string& name, panelStore panels);
 /// the last. A count that memory cannot hold is fatal.
 bool readBinary(std::istream& in, const std::string& name, panelStore panels);
 
-/// Reads either kind of file with `readAscii` or `readBinary`.
+/// Reads either kind of file with `readAscii` or `readBinary`. Of a stream that cannot be rewound,
+/// such as a pipe, the first 2^20 characters show whether it is binary.
 bool read(std::istream& in, const std::string& name, panelStore panels);
 
 /// Writes an ASCII file of one solid.

@@ -1,9 +1,16 @@
 #include "mesh/meshFormats.hpp"
+#include "base/rewrite.hpp"
 #include "mesh/gdfFormat.hpp"
 #include "mesh/stlFormat.hpp"
 #include "support/files.hpp"
 #include "support/meshes.hpp"
 #include "support/program.hpp"
+
+#include <thread>
+
+#ifndef _WIN32
+#include <sys/stat.h>
+#endif
 
 using namespace sorvik;
 
@@ -17,11 +24,11 @@ const std::string asciiFile = "solid OBJECT\n\tfacet normal -0 0.447214 0.894427
 TEST(meshFormats, writeKnownFiles) {
     const temporaryFolder folder;
     const std::string file = folder.path("file");
-    bodyMesh mesh;
+    bodyMesh mesh, again;
     fillMesh(mesh, {triangle({0, 0, -1}, {2, 0, -1}, {0, 0.5F, -1.25F})});
     mesh.stl_print_ascii(file, false);
     EXPECT_EQ(readFile(file), asciiFile);
-    EXPECT_TRUE(!bodyMesh::stl_isbinary(file) && bodyMesh().stl_read_ascii(file));
+    EXPECT_TRUE(!bodyMesh::stl_isbinary(file) && again.stl_read_ascii(file));
     EXPECT_EQ(outputOf([&] { EXPECT_EQ(mesh.nemoh_print(file, false), 3); }),
               " Warning: Nemoh mesh only supports wetFaces to be printed.\n");
     int nodes = 1, panels = 2;
@@ -29,9 +36,11 @@ TEST(meshFormats, writeKnownFiles) {
     EXPECT_EQ(std::pair(nodes, panels), std::pair(1 + 3, 2 + 1));
     mesh.gdf_print(file, true, 2, 9.81);
     EXPECT_THAT(readFile(file), testing::HasSubstr("\n2 9.81\t ULEN GRAV\n"));
-    EXPECT_TRUE(bodyMesh().gdf_read(file));
+    EXPECT_TRUE(again.gdf_read(file));
+    EXPECT_EQ(std::pair(again.nFaces, again.faces.size()), std::pair(1, std::size_t(2)));
     mesh.stl_print(file, true);
-    EXPECT_TRUE(bodyMesh::stl_isbinary(file) && bodyMesh().stl_read(file));
+    EXPECT_TRUE(bodyMesh::stl_isbinary(file) && again.stl_read(file));
+    EXPECT_EQ(again.faces.size(), 1U);
     const std::string binary = readFile(file);
     ASSERT_EQ(binary.size(), 134U);
     EXPECT_EQ(binary.substr(80, 4), std::string("\1\0\0\0", 4));
@@ -53,5 +62,25 @@ TEST(meshFormats, returnWhetherAFileIsWhole) {
     EXPECT_FALSE(isWhole(stl::read, asciiFile.substr(0, 90)) || isWhole(gdf::read, gdf) ||
                  isWhole(gdf::read, "") || isWhole(readNemoh, ""));
 }
+
+#ifndef _WIN32
+TEST(meshFormats, comeThroughPipes) {
+    const temporaryFolder folder;
+    const std::string pipe = folder.path("pipe.stl");
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    bodyMesh known;
+    ASSERT_TRUE(readText(known, stl::read, asciiFile));
+    const std::string binaryFile = textOf(known, stl::write);
+    for (const std::string& content : {asciiFile, binaryFile}) {
+        EXPECT_TRUE(files::canOpen(pipe));
+        std::thread writer([&] { writeFile(pipe, content); });
+        bodyMesh mesh;
+        EXPECT_TRUE(mesh.read(pipe));
+        writer.join();
+        EXPECT_EQ(textOf(mesh, stl::write), binaryFile) << content;
+    }
+    EXPECT_EQ(rewriting::placeBeside(pipe, pipe), "");
+}
+#endif
 
 } // namespace

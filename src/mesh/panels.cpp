@@ -5,7 +5,7 @@
 
 namespace sorvik {
 
-void panelStore::mirror(float v3<float>::*axis) const {
+void panelStore::mirror(coordinate axis) const {
     const auto half = static_cast<std::size_t>(std::max(nFaces, 0));
     faces.resize(half);
     faces.reserve(2 * half);

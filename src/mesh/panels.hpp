@@ -9,6 +9,9 @@ namespace sorvik {
 /// Where the reader of a format puts its panels: the two fields of the mesh that holds them, which
 /// must outlive it.
 struct panelStore {
+    /// A member of a corner: its x, y or z.
+    using coordinate = float v3<float>::*;
+
     std::vector<triangle>& faces;
     int& nFaces; ///< the number of panels read, which every reader sets
 
@@ -17,7 +20,7 @@ struct panelStore {
     /// With n = `nFaces`, there are 2n panels afterwards: panel n + i is the image of panel i, with
     /// the reverse order of corners, so that its normal points outwards too. Panels from n on are
     /// lost; where fewer than n are there, `triangle()` stands for the others.
-    void mirror(float v3<float>::*axis) const;
+    void mirror(coordinate axis) const;
 };
 
 /// The panels that a writer is given, in their order. They must outlive it.

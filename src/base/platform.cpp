@@ -1,5 +1,6 @@
 #include "base/platform.hpp"
 
+#include <cerrno>
 #include <cstdint>
 #include <initializer_list>
 
@@ -10,6 +11,7 @@
 #include <fcntl.h>
 #include <io.h>
 #include <locale.h>
+#include <sys/stat.h>
 
 const char* const sorvik::platform::randomSource = "default";
 
@@ -23,6 +25,13 @@ void sorvik::platform::holdStandardStreams() {
     _setmode(_fileno(stdout), _O_BINARY);
 }
 
+int sorvik::platform::createNew(const std::string& path) {
+    const int file = _open(path.c_str(), _O_CREAT | _O_EXCL | _O_WRONLY, _S_IREAD | _S_IWRITE);
+    return file == -1 ? errno : _close(file);
+}
+
+void sorvik::platform::copyOwner(const std::string& /*like*/, const std::string& /*path*/) {}
+
 double sorvik::platform::strtodClassic(const char* text) {
     static const _locale_t classic = _create_locale(LC_ALL, "C");
     return _strtod_l(text, nullptr, classic);
@@ -34,6 +43,7 @@ double sorvik::platform::strtodClassic(const char* text) {
 #include <locale.h>
 #include <stdlib.h>
 #include <sys/mman.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 const char* const sorvik::platform::randomSource = "/dev/urandom";
@@ -68,6 +78,20 @@ void sorvik::platform::holdStandardStreams() {
         if (fcntl(stream, F_GETFD) == -1) {
             open("/dev/null", O_RDWR);
         }
+    }
+}
+
+int sorvik::platform::createNew(const std::string& path) {
+    constexpr mode_t anyone = 0666; // less the umask
+    const int file = open(path.c_str(), O_CREAT | O_EXCL | O_WRONLY, anyone);
+    return file == -1 ? errno : close(file);
+}
+
+void sorvik::platform::copyOwner(const std::string& like, const std::string& path) {
+    struct stat of {};
+    constexpr auto same = static_cast<uid_t>(-1);
+    if (stat(like.c_str(), &of) == 0 && chown(path.c_str(), of.st_uid, of.st_gid) != 0) {
+        static_cast<void>(chown(path.c_str(), same, of.st_gid) != 0);
     }
 }
 

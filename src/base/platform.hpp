@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 
 namespace sorvik {
 
@@ -19,6 +20,13 @@ void useLargePages(const void* begin, std::size_t bytes);
 /// Keeps the numbers of closed standard streams from being given to files, and makes standard
 /// output pass on its bytes unchanged, with a line feed alone for an end of line.
 void holdStandardStreams();
+
+/// Creates the empty file `path`, which must not be there. Returns 0, or errno.
+int createNew(const std::string& path);
+
+/// Gives the file `path` the owner and the group of the file `like`, or the group alone, where the
+/// system lets it.
+void copyOwner(const std::string& like, const std::string& path);
 
 /// std::strtod in the classic locale, without the end of the number.
 double strtodClassic(const char* text);

@@ -1,35 +1,79 @@
 #include "base/rewrite.hpp"
 
+#include "base/platform.hpp"
+
+#include <cerrno>
 #include <filesystem>
 
 namespace fs = std::filesystem;
 
 namespace sorvik {
 
-std::string rewriting::placeBeside(const std::string& source, const std::string& target) {
-    std::error_code failed;
-    // A pipe or device keeps nothing that could be lost.
-    if (!fs::equivalent(source, target, failed) || !fs::is_regular_file(target, failed)) {
-        return {};
+namespace {
+
+/// Makes an empty file beside `path`, under the first free name. Returns `path` where its folder
+/// takes no files, "" where that fails for another reason.
+std::string makeBeside(const std::string& path) {
+    const std::string name = path + ".new";
+    std::string next = name;
+    int failed = platform::createNew(next);
+    for (int i = 1; failed == EEXIST; ++i) {
+        next = name + std::to_string(i);
+        failed = platform::createNew(next);
     }
-    // A link stays a link to the file that is replaced.
-    const std::string path = fs::canonical(target, failed).string() + ".new";
-    const bool isFree =
-        !failed && fs::symlink_status(path, failed).type() == fs::file_type::not_found;
-    return isFree && files::create(path).is_open() ? path : std::string();
+    const bool takesNone =
+        failed == EACCES || failed == EPERM || failed == EROFS || failed == ENAMETOOLONG;
+    return failed == 0 ? next : takesNone ? path : std::string();
 }
 
-bool rewriting::settle(const std::string& written, const std::string& target, bool isWhole) {
-    std::error_code failed;
-    if (isWhole) {
-        fs::permissions(written, fs::status(target, failed).permissions(), failed);
-        fs::rename(written, fs::canonical(target, failed), failed);
+bool mayBeWritten(const std::string& path) {
+    return std::ofstream(path, std::ios::app).is_open();
+}
+
+} // namespace
+
+replacement::replacement(const std::string& path) : place_(path), path_(path) {
+    std::error_code ignored;
+    const fs::file_type type = fs::symlink_status(path, ignored).type();
+    const bool isThere = type == fs::file_type::regular;
+    if (isThere ? mayBeWritten(path) : type == fs::file_type::not_found) {
+        path_ = makeBeside(path);
     }
-    if (isWhole && !failed) {
+    if (isThere && path_ != place_) {
+        platform::copyOwner(place_, path_);
+        fs::permissions(path_, fs::status(place_, ignored).permissions(), ignored);
+    }
+}
+
+replacement::~replacement() {
+    if (path_ != place_) {
+        std::error_code ignored;
+        fs::remove(path_, ignored);
+    }
+}
+
+bool replacement::settle() {
+    if (path_ == place_) {
         return true;
     }
-    fs::remove(written, failed);
-    return false;
+    std::error_code failed;
+    fs::rename(path_, place_, failed);
+    if (!failed) {
+        path_ = place_;
+        return true;
+    }
+    // A file that is mounted, or another's in a shared folder, can be written but not replaced.
+    fs::copy_file(path_, place_, fs::copy_options::overwrite_existing, failed);
+    if (failed) {
+        path_ = place_; // What is left of the old file is not whole: the new one stays.
+    }
+    return !failed;
+}
+
+std::string sharedFile(const std::string& source, const std::string& target) {
+    std::error_code failed;
+    const bool isShared = fs::equivalent(source, target, failed);
+    return isShared ? fs::canonical(target, failed).string() : std::string();
 }
 
 } // namespace sorvik

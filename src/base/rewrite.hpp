@@ -6,32 +6,49 @@
 
 namespace sorvik {
 
-/// The steps of `rewrite`.
-namespace rewriting {
+/// A new file beside another, whose place it takes once it is whole: NAME.new in the same folder,
+/// or NAME.new1, NAME.new2, ... where that name is taken. It is removed if it takes no place.
+class replacement {
+public:
+    /// Makes the new file, with owner, group and mode of the file `path` where that is there and
+    /// the system lets it.
+    explicit replacement(const std::string& path);
+    replacement(const replacement&) = delete;
+    replacement& operator=(const replacement&) = delete;
+    ~replacement();
 
-/// A new file beside `target`, NAME.new, where that is the file `source` and files can be made
-/// there; otherwise no name.
-std::string placeBeside(const std::string& source, const std::string& target);
+    /// The file to write: the new one; the old one where that may not be written, is a folder,
+    /// link, device or pipe, or lies in a folder that takes no files; "" where there is no room.
+    const std::string& path() const { return path_; }
+    /// Puts the new file, which is closed and whole, in the place of the old one. Returns whether
+    /// it is there.
+    bool settle();
 
-/// Puts the file `written` in the place of `target`, or removes it unless it `isWhole`. Returns
-/// whether `target` has been replaced.
-bool settle(const std::string& written, const std::string& target, bool isWhole);
+private:
+    std::string place_;
+    std::string path_;
+};
 
-} // namespace rewriting
-
-/// Writes the file `target` through `write`, which is given the stream, and returns whether all of
-/// it was written.
+/// Writes the file `path` through `write`, which is given the stream, and returns whether all of it
+/// was written; `write` is not called where the file cannot be opened.
 ///
-/// Where that is the file `source`, which the content was read from, it is replaced only once the
-/// new one is complete: a full disk must not cost the only copy.
+/// A file that is there is replaced only once the new one is whole, so that a killed run or a full
+/// disk leaves the old one. Links, devices and pipes are written as they are.
+template <class Write>
+bool replace(const std::string& path, Write write) {
+    replacement next(path);
+    return files::write(next.path(), write) && next.settle();
+}
+
+/// The file that `target` is or links to where that is the file `source`; otherwise "".
+std::string sharedFile(const std::string& source, const std::string& target);
+
+/// As `replace` where `target` is the file `source`, which the content was read from, and the links
+/// to it stay; otherwise as `files::write`.
 template <class Write>
 bool rewrite(const std::string& source, const std::string& target, Write write) {
-    const std::string beside = rewriting::placeBeside(source, target);
-    if (beside.empty()) {
-        return files::write(target, write);
-    }
-    const bool isWhole = files::write(beside, write);
-    return rewriting::settle(beside, target, isWhole);
+    const std::string shared = sharedFile(source, target);
+    return shared.empty() ? files::write(target, write) : replace(shared, write);
 }
 
 } // namespace sorvik

@@ -1,10 +1,14 @@
 #include "base/rewrite.hpp"
 
 #include "support/files.hpp"
+#include "support/program.hpp"
 
 #include <filesystem>
 
-#include <gtest/gtest.h>
+#ifndef _WIN32
+#include <csignal>
+#include <sys/resource.h>
+#endif
 
 using namespace sorvik;
 namespace fs = std::filesystem;
@@ -68,6 +72,21 @@ TEST(rewrite, replacesTheSourceThatALinkLeadsTo) {
     EXPECT_EQ(readFile(source), "new");
     EXPECT_TRUE(fs::is_symlink(folder.path("link")));
     EXPECT_EQ(filesIn(folder), 2);
+}
+
+TEST(waveElevation, leavesTheOldTableWhenItIsKilled) {
+    const temporaryFolder folder;
+    writeFile(folder.path("case.m"), "simulation.time.end = 1e4\n");
+    fs::create_directory(folder.path("case"));
+    const std::string table = writeFile(folder.path("case/waveElevation.dat"), "old");
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit low{1 << 19, before.rlim_max}; // a file beyond it kills its writer
+    setrlimit(RLIMIT_FSIZE, &low);
+    const programRun run = runProgram({"-waveElevation", "-f", "case.m"}, folder.path());
+    setrlimit(RLIMIT_FSIZE, &before);
+    EXPECT_EQ(run.status, 128 + SIGXFSZ);
+    EXPECT_EQ(readFile(table), "old");
 }
 #endif
 

@@ -1,7 +1,10 @@
 #include "waves/waveFile.hpp"
 
+#include "io/sorvikIO.hpp"
 #include "target.hpp"
 #include "waves/customWave.hpp"
+
+#include <algorithm>
 
 void tryText(const std::string& text) {
     customWave wave;
@@ -10,7 +13,9 @@ void tryText(const std::string& text) {
         wave.addWaveTrain(block.direction, block.amplitudes, block.frequencies, block.phases, true);
     }
     // Rows that are missing or differ in length have ended the run.
-    std::istringstream in(text);
+    std::string plain = text;
+    std::replace_if(plain.begin(), plain.end(), sorvikIO::checkUnwanted, ' ');
+    std::istringstream in(plain);
     std::size_t trains = 0;
     for (double direction = 0; in >> direction >> std::ws; ++trains) {
         const waveTrain& train = wave.trains().at(trains);

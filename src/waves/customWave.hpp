@@ -14,6 +14,8 @@
 ///     0    90        phases [degrees]
 ///     45             direction of the next block
 ///     ...
+///
+/// Commas and brackets are blanks in both.
 class customWave : public waveModel {
 public:
     /// Still water.

@@ -15,7 +15,8 @@ struct waveBlock {
 };
 
 /// Reads the next block of the wave file `name`. Returns false where no number follows, as at the
-/// end of the file. A block that is cut off is fatal.
+/// end of the file. A block that is cut off is fatal. Commas, brackets and the other characters
+/// that the input language turns into blanks are blanks here too.
 bool readWaveBlock(std::istream& in, const std::string& name, waveBlock& block);
 
 } // namespace sorvik

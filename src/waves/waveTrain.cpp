@@ -126,7 +126,11 @@ std::istream& operator>>(std::istream& in, waveTrain& train) {
     const waveComponent2D neutral(train.g_, train.h_);
     train.list_.assign(listed, neutral);
     waveComponent2D passedOver = neutral;
-    return in >> passedOver >> std::ws;
+    // At the end of the text, skipping white space would fail the stream.
+    if (in >> passedOver && !in.eof()) {
+        in >> std::ws;
+    }
+    return in;
 }
 
 std::ostream& operator<<(std::ostream& out, const waveTrain& train) {

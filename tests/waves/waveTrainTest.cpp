@@ -115,6 +115,9 @@ TEST(waveTrain, writesAllComponentsButReadsOne) {
     EXPECT_EQ(next, 0.7);
     ASSERT_EQ(train.components().size(), 2U);
     EXPECT_EQ(train.components().front().amplitude(), 0);
+    std::istringstream withoutEnd("45\t1\t1\t0.5\t2\t0");
+    EXPECT_TRUE(withoutEnd >> train);
+    EXPECT_EQ(train.directionDegrees(), 45);
 }
 
 } // namespace

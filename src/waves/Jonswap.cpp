@@ -7,8 +7,19 @@
 #include "waves/globals.hpp"
 #include "waves/inputCheck.hpp"
 
+#include <algorithm>
 #include <cmath>
 #include <iostream>
+
+namespace {
+
+/// Whether the amplitudes of these densities are finite.
+bool areFinite(const std::vector<double>& densities) {
+    return std::all_of(densities.begin(), densities.end(),
+                       [](double density) { return std::isfinite(2 * density); });
+}
+
+} // namespace
 
 Jonswap::Jonswap(const reader& config) : waveModel(config) {
     declareSumOfTrains<Jonswap>();
@@ -30,8 +41,13 @@ Jonswap::Jonswap(const reader& config) : waveModel(config) {
     omegaP_ = fp * frequencyFactor;
     const frequencyGrid grid = readGrid(config, frequencyFactor);
     const auto direction = inputs.read<double>(prefix + "direction", 0.0);
-    fillSpectrum(grid);
-    fillTrain(grid, addTrain(direction * angleFactor));
+    fillSpectrum(config, grid);
+    waveTrain& train = addTrain(direction * angleFactor);
+    fillTrain(grid, train);
+    if (sorvik::firstInfinite(train) >= 0) {
+        sorvik::refuseInput(config, prefix + "f1", grid[grid.count - 1] / frequencyFactor,
+                            "a frequency whose wave number is finite");
+    }
     finishTrains();
 }
 
@@ -55,11 +71,15 @@ Jonswap::frequencyGrid Jonswap::readGrid(const reader& config, double frequencyF
         sorvik::refuseInput(config, prefix + "f1", f1, "a frequency above " + prefix + "f0");
     }
     const double first = f0 * frequencyFactor;
-    return {first, (f1 * frequencyFactor - first) / (n - 1), n};
+    const double last = f1 * frequencyFactor;
+    if (!std::isfinite(last)) {
+        sorvik::refuseInput(config, prefix + "f1", f1, "a frequency that is finite in rad/s");
+    }
+    return {first, (last - first) / (n - 1), n};
 }
 
 double Jonswap::setS(const double& omega) const {
-    const double g = globals::m_g.back();
+    const double g = globals::verticalGravity();
     const double sigma = omegaP_ >= omega ? sigma1_ : sigma2_;
     const double offPeak = omega / omegaP_ - 1;
     const double r = std::exp(-(offPeak * offPeak) / (2 * sigma * sigma));
@@ -67,14 +87,15 @@ double Jonswap::setS(const double& omega) const {
            std::exp(-1.25 * std::pow(omegaP_ / omega, 4.0)) * std::pow(gamma_, r);
 }
 
-void Jonswap::fillSpectrum(const frequencyGrid& grid) {
+void Jonswap::fillSpectrum(const reader& config, const frequencyGrid& grid) {
     spectrum_.reserve(static_cast<std::size_t>(grid.count));
     for (int i = 0; i < grid.count; ++i) {
         spectrum_.push_back(setS(grid[i]));
     }
     const double m0 = matrixOp::trapz(grid.count, grid.step, spectrum_.data());
     const bool isHeightGiven = hs_ > 0.0;
-    if (!(m0 >= 0.0) || !std::isfinite(m0) || (isHeightGiven && m0 == 0.0)) {
+    const bool isUsable = isHeightGiven ? m0 > 0.0 : m0 >= 0.0 && areFinite(spectrum_);
+    if (!isUsable || !std::isfinite(m0)) {
         sorvik::refuseInput("The variance of the JONSWAP spectrum", m0,
                             "a finite one above zero [m2]: check " + prefix +
                                 "fp, f0, f1, gamma, sigma1, sigma2 and alpha");
@@ -87,6 +108,9 @@ void Jonswap::fillSpectrum(const frequencyGrid& grid) {
     const double q = (hs_ / H) * (hs_ / H);
     matrixOp::scale(grid.count, q, spectrum_.data());
     alpha_ *= q;
+    if (!areFinite(spectrum_)) {
+        sorvik::refuseInput(config, prefix + "Hs", hs_, "a height whose components are finite");
+    }
 }
 
 void Jonswap::fillTrain(const frequencyGrid& grid, waveTrain& train) {

@@ -11,7 +11,8 @@ public:
     /// Still water, no spectrum.
     Jonswap() { declareSumOfTrains<Jonswap>(); }
     /// Reads the spectrum, scales it to the significant wave height where that is above zero, and
-    /// prints the seed. A grid of frequencies that cannot be used is fatal.
+    /// prints the seed. A grid of frequencies that cannot be used, or a component that is not
+    /// finite, is fatal.
     explicit Jonswap(const reader& config);
 
     /// The spectral density [m² s] at `omega` [rad/s], above zero: 2 pi times the JONSWAP form
@@ -39,7 +40,7 @@ private:
     };
 
     frequencyGrid readGrid(const reader& config, double frequencyFactor) const;
-    void fillSpectrum(const frequencyGrid& grid);
+    void fillSpectrum(const reader& config, const frequencyGrid& grid);
     void fillTrain(const frequencyGrid& grid, waveTrain& train);
 
     double hs_ = -1.0;

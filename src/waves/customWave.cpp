@@ -6,9 +6,28 @@
 #include "io/reader.hpp"
 #include "numerics/matrixOp.hpp"
 #include "waves/angles.hpp"
+#include "waves/inputCheck.hpp"
 #include "waves/waveFile.hpp"
 
 #include <iostream>
+
+namespace {
+
+/// Adds the train of a block; a frequency, which `source` gives, without a finite wave number is
+/// fatal.
+void addBlock(customWave& sea, sorvik::waveBlock& block, bool useRadians,
+              const std::string& source) {
+    const std::vector<double> given = block.frequencies;
+    sea.addWaveTrain(block.direction, block.amplitudes, block.frequencies, block.phases,
+                     useRadians);
+    const int infinite = sorvik::firstInfinite(sea.trains().back());
+    if (infinite >= 0) {
+        sorvik::refuseInput(source, given[static_cast<std::size_t>(infinite)],
+                            "a frequency whose wave number is finite");
+    }
+}
+
+} // namespace
 
 customWave::customWave(const reader& config) : waveModel(config) {
     declareSumOfTrains<customWave>();
@@ -21,11 +40,12 @@ customWave::customWave(const reader& config) : waveModel(config) {
         std::cout << " Reading single-direction style input of customWave. Use .file input for "
                      "multiple directions"
                   << std::endl;
-        const auto direction = inputs.read<double>(prefix + "direction", 0.0);
-        const auto amplitudes = config.mustRead<std::vector<double>>(prefix + "amplitude");
-        auto frequencies = config.mustRead<std::vector<double>>(prefix + "frequency");
-        auto phases = config.mustRead<std::vector<double>>(prefix + "phase");
-        addWaveTrain(direction, amplitudes, frequencies, phases, useRadians);
+        sorvik::waveBlock block;
+        block.direction = inputs.read<double>(prefix + "direction", 0.0);
+        block.amplitudes = config.mustRead<std::vector<double>>(prefix + "amplitude");
+        block.frequencies = config.mustRead<std::vector<double>>(prefix + "frequency");
+        block.phases = config.mustRead<std::vector<double>>(prefix + "phase");
+        addBlock(*this, block, useRadians, prefix + "frequency");
     }
     finishTrains();
 }
@@ -57,8 +77,8 @@ void customWave::readFile(const std::string& name, bool useRadians) {
     }
     sorvik::waveBlock block;
     while (sorvik::readWaveBlock(in, name, block)) {
-        addWaveTrain(block.direction, block.amplitudes, block.frequencies, block.phases,
-                     useRadians);
+        addBlock(*this, block, useRadians,
+                 "A frequency in the wave file " + name + " of " + prefix + "file");
     }
     if (in.bad()) {
         printer::fatalError("Cannot read the wave file " + name + " to its end");

@@ -71,8 +71,12 @@ void globals::set(const reader& config) {
     const double rhoWater = read("waterDensity", m_rhoWater);
     const double rhoAir = read("airDensity", m_rhoAir);
     const double waterLevel = read("waterLevel", m_stillWaterLevel);
-    const double gravity = read("gravity", m_g.back());
+    const double gravity = read("gravity", verticalGravity());
     set(3, {0.0, 0.0, gravity}, rhoWater, rhoAir, waterLevel);
+}
+
+double globals::verticalGravity() {
+    return m_g.empty() ? 0.0 : m_g.back();
 }
 
 void globals::printInputExample() {

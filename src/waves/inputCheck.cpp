@@ -3,6 +3,10 @@
 #include "base/numberText.hpp"
 #include "io/printer.hpp"
 #include "io/reader.hpp"
+#include "waves/waveTrain.hpp"
+
+#include <algorithm>
+#include <cmath>
 
 namespace sorvik {
 
@@ -21,6 +25,15 @@ void refuseInput(const reader& config, const std::string& key, double fallback,
         refuseInput(key, fallback, expected);
     }
     refuseInput(key, entry->second, expected);
+}
+
+int firstInfinite(const waveTrain& train) {
+    const auto& list = train.components();
+    const auto first = std::find_if_not(list.begin(), list.end(), [](const waveComponent2D& one) {
+        return std::isfinite(one.amplitude()) && std::isfinite(one.angularFrequency()) &&
+               std::isfinite(one.waveNumber());
+    });
+    return first == list.end() ? -1 : static_cast<int>(first - list.begin());
 }
 
 } // namespace sorvik

@@ -3,6 +3,7 @@
 #include <string>
 
 class reader;
+class waveTrain;
 
 namespace sorvik {
 
@@ -15,5 +16,9 @@ namespace sorvik {
 /// if it is not given.
 [[noreturn]] void refuseInput(const reader& config, const std::string& key, double fallback,
                               const std::string& expected);
+
+/// The index of the first component whose amplitude, frequency or wave number is not finite; -1
+/// where all are.
+int firstInfinite(const waveTrain& train);
 
 } // namespace sorvik

@@ -68,6 +68,10 @@ void regularWave::fillTrain(const reader& config, waveTrain& train, double phase
         } else {
             train.setFrom_k(1, &amplitude_, &quantity, &phase);
         }
+        if (sorvik::firstInfinite(train) >= 0) {
+            sorvik::refuseInput(config, key, value,
+                                "a number that gives a finite frequency and wave number");
+        }
         return;
     }
     printer::fatalError("Essential wave parameters missing. Need at least one of: wave.period (s), "

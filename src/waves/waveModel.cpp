@@ -65,7 +65,7 @@ waveModel::waveModel(const reader& config) {
     const inputMap& inputs = config.inputs;
     const double ground = inputs.read<double>("environment.ground.level", -1000.0);
     depth_ = inputs.read<double>(prefix + "depth", globals::m_stillWaterLevel - ground);
-    gravity_ = std::fabs(globals::m_g.back());
+    gravity_ = std::fabs(globals::verticalGravity());
     density_ = globals::m_rhoWater;
     rampTime_ = inputs.read<double>(prefix + "rampTime", 0.0);
     stretching_ = depth_;

@@ -128,6 +128,16 @@ TEST(globals, mapsTwoDimensionsToTheVerticalPlane) {
     EXPECT_EQ(matrixOp::l2Norm, matrixOp::l2Norm2D);
 }
 
+TEST(globals, areWithoutGravityForAnEmptyVector) {
+    const reader config = configOf("");
+    globals::set(3, {}, 1000, 1, 0);
+    EXPECT_EQ(waveModel(config).gravity(), 0);
+    EXPECT_EQ(Jonswap().setS(1), 0);
+    globals::m_isSet = false;
+    globals::set(config);
+    EXPECT_EQ(globals::m_g, values(3));
+}
+
 /// A sea whose components repeat after 20 s.
 std::unique_ptr<Jonswap> jonswapOf(const std::string& keys) {
     std::unique_ptr<Jonswap> sea;

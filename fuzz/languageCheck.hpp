@@ -1,10 +1,10 @@
 #pragma once
 
 #include "base/classicText.hpp"
+#include "base/numberText.hpp"
 #include "io/sorvikIO.hpp"
 #include "target.hpp"
 
-#include <cctype>
 #include <map>
 #include <vector>
 
@@ -30,8 +30,8 @@ inline bool isPlain(const std::string& key, const std::string& value) {
     const std::string words = wordsOf(value);
     const bool isPath =
         value.find("..") != std::string::npos || value.find_first_of("/\\") != std::string::npos;
-    const bool isBare = !isPath && words.find(' ') + 1 == words.size() &&
-                        std::isalpha(static_cast<unsigned char>(words[0])) == 0;
+    const bool isBare =
+        !isPath && words.find(' ') + 1 == words.size() && !sorvik::isLetter(words[0]);
     const bool isRead =
         isBare ? words.find('#') == std::string::npos : words.find(':') == words.find(":\\");
     return isRead && key.find_first_of(":#\r") == std::string::npos &&

@@ -3,9 +3,11 @@
 #include "base/classicLocale.hpp"
 #include "base/processEnd.hpp"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <iostream>
+#include <limits>
 #include <string_view>
 
 int printer::m_dblSize = 8;
@@ -127,15 +129,16 @@ void printer::showProgress(const double& done, const double& total, int& shown) 
     if (!std::isfinite(share) || share <= -1.0) {
         return;
     }
-    // Bounded before the conversion: an int cannot hold every double.
-    const int filled = static_cast<int>(std::fmin(share, barLength));
-    if (filled > shown) {
-        shown = filled;
-        const auto length = static_cast<std::size_t>(filled);
+    // Bounded before the conversion: an int cannot hold every double, nor twice every int.
+    constexpr int most = std::numeric_limits<int>::max() / 2;
+    const int reached = static_cast<int>(std::fmin(share, most));
+    if (reached > shown) {
+        shown = reached;
+        const auto length = static_cast<std::size_t>(std::min(reached, barLength));
         std::cout << "\r[" << std::string(length, '#') << std::string(barLength - length, ' ')
-                  << "]   " << 2 * filled << " %" << std::flush;
+                  << "]   " << 2 * reached << " %" << std::flush;
     }
-    if (filled == barLength) {
+    if (reached == barLength) {
         std::cout << std::endl;
     }
 }

@@ -51,10 +51,10 @@ public:
     /// Writes `n` doubles as they are in memory, `m_dblSize` bytes each; nothing for `n` below 1.
     static void writeDoubles(std::ostream& os, int n, const double* values);
 
-    /// Redraws a bar of 50 characters when it has grown beyond `shown`, the number of characters
-    /// drawn so far, which the caller owns and starts at 0. A full bar ends its line.
+    /// Redraws a bar of 50 characters when it has grown beyond `shown`, the length reached so far,
+    /// which the caller owns and starts at 0. A bar of length 50 ends its line at every call.
     ///
     /// A share that is negative or not finite (NaN, infinities, a total of zero) draws nothing; one
-    /// above 1 draws a full bar.
+    /// above 1 draws a full bar, a percentage above 100, and no end of line.
     static void showProgress(const double& done, const double& total, int& shown);
 };

@@ -8,6 +8,28 @@ namespace fs = std::filesystem;
 
 namespace sorvik {
 
+namespace {
+
+/// Whether opening `path` for writing could do harm: a link to nothing would get its target, a pipe
+/// would wait for a reader, and a device could act on it.
+bool isSpecial(const std::string& path) {
+    std::error_code ignored;
+    const fs::file_type type = fs::status(path, ignored).type();
+    const bool isThere = fs::exists(fs::symlink_status(path, ignored));
+    return isThere && type != fs::file_type::regular && type != fs::file_type::directory;
+}
+
+/// The name of the file that shows whether a folder can be written into.
+std::string findProbe(const std::string& folder) {
+    std::string probe = folder + "/test.txt";
+    for (int i = 1; isSpecial(probe); ++i) {
+        probe = folder + "/test" + std::to_string(i) + ".txt";
+    }
+    return probe;
+}
+
+} // namespace
+
 std::ifstream files::open(const std::string& path) {
     std::ifstream in;
     in.imbue(std::locale::classic());
@@ -39,7 +61,7 @@ bool files::makeFolder(const std::string& path) {
     fs::create_directory(path, ignored);
 
     // A file of the probe's name may be the user's: it is opened without changing it.
-    const std::string probe = path + "/test.txt";
+    const std::string probe = findProbe(path);
     const bool wasThere = fs::exists(fs::symlink_status(probe, ignored));
     const bool isWritable = std::ofstream(probe, std::ios::app).is_open();
     if (isWritable && !wasThere) {

@@ -9,6 +9,10 @@
 #include <map>
 #include <sstream>
 
+#ifndef _WIN32
+#include <sys/stat.h>
+#endif
+
 namespace {
 
 TEST(paths, endWithANameAndItsExtension) {
@@ -35,6 +39,17 @@ TEST(reader, readsWhatItMust) {
         "the final layer of the folder tree. Please make sure that the parent "
         "directory exists, and check permissions.\n\n\n* * * Terminating");
 }
+
+#ifndef _WIN32
+TEST(makeFolder, opensNoPipeAndNoLinkToNothing) {
+    const temporaryFolder folder;
+    std::filesystem::create_symlink(folder.path("target"), folder.path("test.txt"));
+    ASSERT_EQ(mkfifo(folder.path("test1.txt").c_str(), 0600), 0);
+    reader::makeFolder(folder.path());
+    const auto all = std::filesystem::directory_iterator(folder.path());
+    EXPECT_EQ(std::distance(begin(all), end(all)), 2);
+}
+#endif
 
 TEST(getFlag, leavesTheValueWithoutTheFlag) {
     const char* cases[][4] = {

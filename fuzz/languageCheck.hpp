@@ -15,7 +15,28 @@ inline entries readText(const std::string& text, char assign) {
     return sorvikIO::readInputStream(in, assign, '.');
 }
 
-/// The words of a value, a blank behind each.
+/// The same by the entry, in blocks by recursion.
+inline entries readOneByOne(const std::string& text, char assign) {
+    entries map;
+    sorvik::classicText in(text);
+    std::string key, value;
+    while (const int kind = sorvikIO::readNextEntry(in, key, value, assign)) {
+        if (value.empty() || map.count(key) != 0) {
+            continue;
+        }
+        if (kind == 1) {
+            sorvikIO::stripFromUnwanted(value);
+            map[key] = value;
+            continue;
+        }
+        for (const auto& [subKey, subValue] : readOneByOne(value, assign)) {
+            map.emplace(key + '.' + subKey, subValue);
+        }
+    }
+    return map;
+}
+
+/// The words of a value, each with a blank after it.
 inline std::string wordsOf(const std::string& value) {
     std::string words;
     sorvik::classicText in(value);
@@ -42,6 +63,7 @@ inline bool isPlain(const std::string& key, const std::string& value) {
 /// block of its name, and one without words is none.
 inline void checkLanguage(const std::string& text, char assign) {
     const entries map = readText(text, assign);
+    check(map == readOneByOne(text, assign));
     const std::string json = sorvikIO::toJSON(map, 0);
     entries expected;
     for (const auto& [key, value] : map) {

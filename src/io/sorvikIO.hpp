@@ -33,8 +33,11 @@ extern const std::string notFoundStr;
 /// `maxNesting` is a fatal error that names its line.
 std::map<std::string, std::string> readInputStream(std::istream& in, char assign, char member);
 
-/// Reads the next entry: 0 when none is left, 1 for a plain value, 2 for a nested block, whose text
-/// is `value`. Lines without `assign` are ignored.
+/// Reads the next entry: 0 when none is left, which leaves the stream failed, 1 for a plain value,
+/// 2 for a nested block, whose text is `value`. Lines without `assign` are ignored.
+///
+/// The stream is read line by line, and stands after the line, or after the block where the value
+/// is one; blocks need a stream that can seek.
 int readNextEntry(std::istream& in, std::string& key, std::string& value, char assign);
 
 /// Reads one bracketed or quoted block, across lines, and returns the text between its outer

@@ -29,11 +29,12 @@ bool isNested(const std::string& block, char assign) {
     return first != std::string::npos && first != block.find(":\\");
 }
 
-std::string keyFrom(std::string_view text) {
-    std::string key(text);
-    sorvikIO::strip(key);
-    sorvikIO::stripFromUnwanted(key);
-    return key;
+/// A key, or a value that opens no block.
+std::string stripped(std::string_view part) {
+    std::string text(part);
+    sorvikIO::strip(text);
+    sorvikIO::stripFromUnwanted(text);
+    return text;
 }
 
 /// Whether the first character of a value, blanks apart, opens a block.
@@ -74,24 +75,19 @@ public:
                 moveBehind(lineEnd_);
                 continue;
             }
-            key = keyFrom(text_.substr(position_, split_ - position_));
+            key = stripped(text_.substr(position_, split_ - position_));
             const std::string_view rest = text_.substr(split_ + 1, end - split_ - 1);
             if (beginsBlock(rest)) {
                 value = takeBlock();
                 return isNested(value, assign_) ? entryKind::nested : entryKind::plain;
             }
-            value = rest;
-            sorvikIO::strip(value);
-            sorvikIO::stripFromUnwanted(value);
+            value = stripped(rest);
             moveBehind(lineEnd_);
             return entryKind::plain;
         }
         return entryKind::none;
     }
 
-    /// Where the next entry is looked for.
-    std::size_t place() const { return position_; }
-    bool ended() const { return isAtEnd_; }
     /// Newlines of the text before the value of the last entry.
     std::ptrdiff_t newlinesBefore() const {
         return std::count(text_.data(), text_.data() + split_, '\n');
@@ -232,17 +228,27 @@ std::map<std::string, std::string> sorvikIO::readInputStream(std::istream& in, c
 }
 
 int sorvikIO::readNextEntry(std::istream& in, std::string& key, std::string& value, char assign) {
-    if (!in.good()) {
-        return 0;
+    std::string line;
+    while (in.good()) {
+        const std::streampos start = in.tellg();
+        std::getline(in, line);
+        stripFromComment(line);
+        const std::size_t split = line.find(assign);
+        if (split == std::string::npos) {
+            continue;
+        }
+        key = stripped(line.substr(0, split));
+        const std::string rest = line.substr(split + 1);
+        if (!beginsBlock(rest)) {
+            value = stripped(rest);
+            return static_cast<int>(entryKind::plain);
+        }
+        in.seekg(start + static_cast<std::streamoff>(split + 1));
+        value = extractBlock(in);
+        return static_cast<int>(isNested(value, assign) ? entryKind::nested : entryKind::plain);
     }
-    const std::streampos start = in.tellg();
-    const std::string text = restOf(in);
-    entryReader entries(text, assign);
-    const entryKind kind = entries.next(key, value);
-    in.clear();
-    in.seekg(start + static_cast<std::streamoff>(entries.place()));
-    in.setstate(entries.ended() ? std::ios::eofbit : std::ios::goodbit);
-    return static_cast<int>(kind);
+    in.setstate(std::ios::failbit);
+    return static_cast<int>(entryKind::none);
 }
 
 std::string sorvikIO::extractBlock(std::istream& in) {

@@ -28,18 +28,25 @@ std::size_t commonLength(std::string_view a, std::string_view b) {
                                     a.begin());
 }
 
-[[noreturn]] void fail(std::string_view prefix, std::string_view source, std::string_view what) {
-    printer::fatalError("The alias " + excerpt(prefix) + sorvikIO::memberDLM +
-                        std::string(sourceWord) + " = " + excerpt(source) + std::string(what));
+std::string textOf(std::string_view prefix, std::string_view source) {
+    return excerpt(prefix) + sorvikIO::memberDLM + std::string(sourceWord) + " = " +
+           excerpt(source);
 }
 
-/// An alias that begins with its own source gives itself new entries without end.
-void checkAlias(std::string_view prefix, std::string_view source) {
-    if (prefix.size() > source.size() && startsWith(prefix, source)) {
-        fail(prefix, source,
-             " feeds on itself: its own name begins with the name of its source. Expected a source "
-             "whose name is not the beginning of the alias.");
-    }
+/// Whether an alias finds what it has added among the entries of its source.
+bool feedsOnItself(std::string_view prefix, std::string_view source) {
+    return prefix.size() > source.size() && startsWith(prefix, source);
+}
+
+[[noreturn]] void failFeeding(std::string_view prefix, std::string_view source) {
+    printer::fatalError("The alias " + textOf(prefix, source) +
+                        " feeds on itself: its own name begins with the name of its source. "
+                        "Expected a source whose name is not the beginning of the alias.");
+}
+
+/// The key that an alias gives to its copy of the entry `key`.
+std::string copiedKey(std::string_view prefix, std::string_view source, const std::string& key) {
+    return std::string(prefix).append(key, source.size());
 }
 
 } // namespace
@@ -60,17 +67,29 @@ bool aliasResolver::pass() {
     return changed;
 }
 
-bool aliasResolver::resolve(std::string_view prefix, std::string_view source) {
-    checkAlias(prefix, source);
-    return takeTurn(aliases_.emplace_back(alias{{}, prefix, source}));
+bool aliasResolver::resolve(entries& map, std::string_view prefix, std::string_view source) {
+    bool changed = false;
+    for (auto e = map.lower_bound(std::string(source));
+         e != map.end() && startsWith(e->first, source); ++e) {
+        std::string key = copiedKey(prefix, source, e->first);
+        // The copy would be copied in turn, and so on.
+        if (feedsOnItself(prefix, source) && key > e->first) {
+            failFeeding(prefix, source);
+        }
+        changed |= map.try_emplace(std::move(key), e->second).second;
+    }
+    return changed;
 }
 
-/// Checks new aliases at once: before its turn another one could copy it without end.
+/// Checks new aliases at once: before its turn another one could copy it without end. An alias that
+/// feeds on itself always has an entry to copy, its own.
 void aliasResolver::noteIfAlias(entry e) {
     const std::string_view key = e->first;
     if (isAlias(key)) {
         const std::string_view prefix = key.substr(0, key.size() - sourceWord.size() - 1);
-        checkAlias(prefix, e->second);
+        if (feedsOnItself(prefix, e->second)) {
+            failFeeding(prefix, e->second);
+        }
         waiting_.emplace(key, &aliases_.emplace_back(alias{key, prefix, e->second}));
     }
 }
@@ -116,23 +135,31 @@ bool aliasResolver::takeTurn(alias& a) {
     return changed;
 }
 
-bool aliasResolver::add(const alias& a, entry e) {
-    std::string key(a.prefix);
-    key.append(e->first, a.source.size());
-    const auto [added, isNew] = map_.try_emplace(std::move(key), e->second);
+void aliasResolver::checkSize() const {
+    const bool hasMany = map_.size() > sorvikIO::maxMapEntries;
+    if (!hasMany && addedText_ <= sorvikIO::maxAddedText) {
+        return;
+    }
+    const alias& a = *std::max_element(
+        aliases_.begin(), aliases_.end(),
+        [](const alias& one, const alias& other) { return one.added < other.added; });
+    const std::string what = hasMany ? "With its aliases the input has more than " +
+                                           std::to_string(sorvikIO::maxMapEntries) + " entries. "
+                                     : "The aliases of the input add more than " +
+                                           std::to_string(sorvikIO::maxAddedText) + " characters. ";
+    printer::fatalError(what + textOf(a.prefix, a.source) + " adds most entries, " +
+                        std::to_string(a.added) + ". Expected aliases of smaller sources.");
+}
+
+bool aliasResolver::add(alias& a, entry e) {
+    const auto [added, isNew] =
+        map_.try_emplace(copiedKey(a.prefix, a.source, e->first), e->second);
     if (!isNew) {
         return false;
     }
+    ++a.added;
     addedText_ += added->first.size() + added->second.size();
-    if (map_.size() > sorvikIO::maxMapEntries) {
-        fail(a.prefix, a.source,
-             " makes more than " + std::to_string(sorvikIO::maxMapEntries) + " entries.");
-    }
-    if (addedText_ > sorvikIO::maxAddedText) {
-        fail(a.prefix, a.source,
-             " makes entries of more than " + std::to_string(sorvikIO::maxAddedText) +
-                 " characters in all.");
-    }
+    checkSize();
     noteIfAlias(&*added);
     announce(&*added);
     return true;

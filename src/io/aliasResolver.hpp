@@ -25,9 +25,8 @@ public:
     /// Resolves every alias once, in key order; returns whether an entry was added.
     bool pass();
 
-    /// Adds, for every key that begins with `source`, `prefix` + its rest with the same value,
-    /// unless that is there; returns whether one was added.
-    bool resolve(std::string_view prefix, std::string_view source);
+    /// Resolves the one alias `prefix`.source = `source`, as `sorvikIO::addAlternativeKey`.
+    static bool resolve(entries& map, std::string_view prefix, std::string_view source);
 
 private:
     using entry = const entries::value_type*;
@@ -42,12 +41,14 @@ private:
         std::string_view source;
         bool hadTurn = false;
         std::set<entry, byKey> news{}; ///< entries of the source since the last turn
+        std::size_t added = 0;         ///< entries that it has brought
     };
 
     void noteIfAlias(entry e);
     void announce(entry e);
     bool takeTurn(alias& a);
-    bool add(const alias& a, entry e);
+    bool add(alias& a, entry e);
+    void checkSize() const;
 
     entries& map_;
     std::size_t addedText_ = 0;

@@ -93,7 +93,9 @@ bool assignAlternatives(std::map<std::string, std::string>& map);
 /// For every key that begins with the text `source`, adds the key `prefix` + its rest with the same
 /// value, unless that is there already; returns whether one was added.
 ///
-/// A `prefix` that is itself `source` and more would grow without end: a fatal error that names it.
+/// The keys that are added count too where they come later in the map. Where `prefix` is `source`
+/// and more, a key that gives a later one would give keys without end: a fatal error that names
+/// `prefix`.
 bool addAlternativeKey(std::map<std::string, std::string>& map, const std::string& prefix,
                        const std::string& source);
 /// The components of a dotted key, empty ones included, but none after a trailing ".".
@@ -113,8 +115,8 @@ std::string alternativeKey(std::istream& in, const std::string& key);
 // ---- JSON export (sorvikIO_json.cpp) ----
 
 /// The map as one JSON object: plain members in key order, then nested objects in name order.
-/// `indent` is the depth of the object. A key of more than `maxNesting` components, or a text of
-/// more than `maxJsonText` characters, is a fatal error.
+/// `indent` is the depth of the object. A key of more than `maxNesting` + 1 components, or a text
+/// of more than `maxJsonText` characters, is a fatal error.
 std::string toJSON(const std::map<std::string, std::string>& map, int indent);
 /// One member line. A `value` that begins with '{' is a finished object; an empty one becomes {}.
 std::string addJSONLine(const std::string& key, std::string value, int indent);

@@ -13,7 +13,7 @@ bool sorvikIO::assignAlternatives(std::map<std::string, std::string>& map) {
 
 bool sorvikIO::addAlternativeKey(std::map<std::string, std::string>& map, const std::string& prefix,
                                  const std::string& source) {
-    return sorvik::aliasResolver(map).resolve(prefix, source);
+    return sorvik::aliasResolver::resolve(map, prefix, source);
 }
 
 std::vector<std::string> sorvikIO::splitKey(const std::string& key) {

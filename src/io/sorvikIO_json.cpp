@@ -46,11 +46,13 @@ std::string memberHead(const std::string& key, int indent) {
 }
 
 void checkDepth(const std::string& key) {
-    const auto dots = std::count(key.begin(), key.end(), sorvikIO::memberDLM);
-    if (dots >= sorvikIO::maxNesting) {
-        printer::fatalError("The key " + sorvik::excerpt(key) + " has " + std::to_string(dots + 1) +
-                            " components. At most " + std::to_string(sorvikIO::maxNesting) +
-                            " are expected.");
+    // The blocks that a key of plain names stands in, and its own name.
+    constexpr int most = sorvikIO::maxNesting + 1;
+    const auto components = std::count(key.begin(), key.end(), sorvikIO::memberDLM) + 1;
+    if (components > most) {
+        printer::fatalError("The key " + sorvik::excerpt(key) + " has " +
+                            std::to_string(components) + " components. At most " +
+                            std::to_string(most) + " are expected.");
     }
 }
 

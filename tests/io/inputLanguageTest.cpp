@@ -59,7 +59,7 @@ TEST(readInputStream, nestsAHundredBlocks) {
         }
         return text + "x = 1" + std::string(static_cast<std::size_t>(depth), '}');
     };
-    EXPECT_EQ(read(nested(sorvikIO::maxNesting)).begin()->second, "1");
+    EXPECT_THAT(sorvikIO::toJSON(read(nested(sorvikIO::maxNesting)), 0), testing::HasSubstr("1"));
     EXPECT_END_SAYING(read(nested(100'000)), 1, "Line 102 of the input opens block number 101");
     EXPECT_EQ(read("a = " + std::string(100'000, '[') + "1" + std::string(100'000, ']')),
               (entries{{"a", "1"}}));
@@ -87,6 +87,18 @@ TEST(inputMap, reportsExactlyFiveHundredPasses) {
                                  "Something is off...\n");
         EXPECT_EQ(chain.map.count("10000.x"), links <= 502 ? 1U : 0U) << links;
     }
+}
+
+TEST(aliases, nameTheOneThatAddsMost) {
+    inputMap map;
+    for (int i = 0; i < 500'000; ++i) {
+        map.map[(i < 350'000 ? "big." : "small.") + std::to_string(i)] = "1";
+    }
+    map.map["o.source"] = "big.77";
+    map.map["p.source"] = "big";
+    map.map["q.source"] = "small";
+    EXPECT_END_SAYING(map.assignSources(), 1,
+                      "more than 1000000 entries. p.source = big adds most entries, 350000. Exp");
 }
 
 /// A text that cannot be read twice.
@@ -117,6 +129,23 @@ TEST(readNextEntry, readsLineByLine) {
     EXPECT_EQ(sorvikIO::readNextEntry(in, key, value, '='), 1);
     EXPECT_EQ(key + value, "b2");
     EXPECT_EQ(in.peek(), 'c');
+}
+
+TEST(addAlternativeKey, isEndlessOnlyWhereAKeyMakesItSo) {
+    entries map = {{"a.b.source", "a"}, {"body.x", "1"}, {"body.z", "2"}, {"c.source", "body"}};
+    EXPECT_TRUE(sorvikIO::addAlternativeKey(map, "c", "body"));
+    EXPECT_FALSE(sorvikIO::addAlternativeKey(map, "c", "body"));
+    EXPECT_EQ(map["c.x"] + map["c.z"], "12");
+    EXPECT_FALSE(sorvikIO::addAlternativeKey(map, "empty.a", "empty"));
+    // The copy of a later key comes before it.
+    EXPECT_TRUE(sorvikIO::addAlternativeKey(map, "body.a", "body"));
+    EXPECT_EQ(map.count("body.a.x") + map.count("body.a.a.x"), 1U);
+    EXPECT_END_SAYING(sorvikIO::addAlternativeKey(map, "body.y", "body"), 1,
+                      "The alias body.y.source = body feeds on itself");
+    map = {{"a.source", "c"}, {"b.source", "a"}, {"c.x", "1"}};
+    EXPECT_TRUE(sorvikIO::assignAlternatives(map));
+    EXPECT_EQ(map["b.x"], "1");
+    EXPECT_FALSE(sorvikIO::assignAlternatives(map));
 }
 
 TEST(sorvikIO, takesKeysApart) {

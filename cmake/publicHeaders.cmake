@@ -18,6 +18,7 @@ set(SORVIK_PUBLIC_HEADERS
   io/reader.hpp
   io/sorvikIO.hpp
   mesh/bodyMesh.hpp
+  mesh/panels.hpp
   mesh/triangle.hpp
   mesh/v3.hpp
   waves/Jonswap.hpp

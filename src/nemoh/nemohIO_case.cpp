@@ -5,16 +5,18 @@
 #include "nemoh/fatalLine.hpp"
 
 #include <algorithm>
-#include <array>
+#include <cctype>
 #include <cstddef>
 #include <iostream>
-#include <limits>
 #include <string>
 
 // Values are picked out of lines by their place: a section is found by its header, lines are
 // counted from there, and what follows the values of a line is a comment.
 
 namespace {
+
+constexpr const char* countAfterMode =
+    "the frequency mode, which Nemoh 2 leaves out, and the number of frequencies";
 
 /// Ends the process with an error that shows the line where reading `in` stopped.
 [[noreturn]] void fatalHere(std::istream& in, const std::string& file,
@@ -92,8 +94,9 @@ int nemohIO::skipToKey(std::istream& in, const std::string& key) {
 }
 
 void nemohIO::skipLines(std::istream& in, int count) {
-    for (int i = 0; i < count && in.good(); ++i) {
-        in.ignore(std::numeric_limits<std::streamsize>::max(), '\n');
+    std::string line;
+    for (int i = 0; i < count && in; ++i) {
+        std::getline(in, line);
         in >> std::ws;
     }
 }
@@ -107,9 +110,12 @@ int nemohIO::readCase(int& freqs, std::vector<double>& frequencies, int& directi
 
     findSection(in, file, "--- Load cases");
     readNumber<int>(in, file, "the frequency mode");
-    freqs = readCount(in, file, "the number of frequencies");
+    freqs = readCount(in, file, countAfterMode);
+    if (std::isspace(in.peek()) == 0) {
+        fatalHere(in, file, countAfterMode); // "525 0.04 21.0" would be no frequencies
+    }
     const auto w0 = readNumber<double>(in, file, "the lowest frequency");
-    const auto w1 = readNumber<double>(in, file, "the highest frequency");
+    const auto w1 = readNumber<double>(in, file, "the highest frequency as fourth number");
     skipLines(in, 1);
     directions = readCount(in, file, "the number of directions");
     const auto dir0 = readNumber<double>(in, file, "the first direction");
@@ -145,17 +151,13 @@ int nemohIO::readBody(int body, int& motions, int& forces, std::vector<double>& 
     motions = count;
     // The rest of the count line and all motions but the last: type, axis, point.
     skipLines(in, motions);
-    std::array<double, 7> motion{};
-    for (double& value : motion) {
-        in >> value;
-    }
-    skipLines(in, 1);
-    if (!(in >> count)) {
-        return -1;
-    }
-    forces = count;
     refPoint.resize(std::max<std::size_t>(refPoint.size(), 3));
-    std::copy(motion.end() - 3, motion.end(), refPoint.begin());
+    double skipped = 0;
+    in >> skipped >> skipped >> skipped >> skipped >> refPoint[0] >> refPoint[1] >> refPoint[2];
+    skipLines(in, 1);
+    if (in >> count) {
+        forces = count;
+    }
     return motions < 0 || forces < 0 ? -1 : 0;
 }
 

@@ -64,13 +64,16 @@ TEST_F(nemohProject, searchesByLine) {
     const std::tuple<const char*, int, int, const char*> cases[] = {
         {"a\n\n  key\n\n b c\n\n \n d\ne\n", 2, 2, "e"},
         {"key\na\nb", 1, -1, "a"},
+        {"key\na\nb\n", 1, 2, ""},
+        {"key\na\nb\n", 1, 3, "failed"},
         {"a\nkey\n \n", -1, 0, ""},
-        {"a\nb\n", -1, 1, ""}};
+        {"a\nb\n", -1, 1, "failed"}};
     for (const auto& [text, lines, skipped, next] : cases) {
         std::istringstream in(text);
         EXPECT_EQ(nemohIO::skipToKey(in, "key"), lines) << text;
         nemohIO::skipLines(in, skipped);
-        EXPECT_EQ(std::string(std::istreambuf_iterator<char>(in), {}).substr(0, 1), next) << text;
+        const std::string rest(std::istreambuf_iterator<char>(in), {});
+        EXPECT_EQ(in.fail() ? "failed" : rest.substr(0, 1), next) << text;
     }
 }
 
@@ -88,14 +91,19 @@ TEST_F(nemohProject, readsTheCaseOrSaysWhatIsWrong) {
         {"2 0. 90. ", "1 15. 90. ", "1{ 0.01, 5 }{ 15 }"},
         {"1 2 0.01 5. ", "1 1 0.7 3. ", "1{ 0.01 }{ 0, 90 }"}, // keeps what it was
         {"6 \t ! number of body", "2000000000 \t ! body", "-1 2000000000 -1{"},
-        {"6 \t ! number of forces", "-6", "-1 6 -6{"},
+        {"6 \t ! number of forces", "-6", "-1 6 -6{ 0, 0, 0 }"}, // the point is read first
         {"--- Body 1", "--- Body 2", "Warning: ndofs for body 1 were not found\n-1 -1 -1{"},
         {"--- Desc", "---Desc", "/Nemoh.cal, line 39: expected the section \"--- Description\""},
         {"1\t ! number of b", "x\t !",
          "/Nemoh.cal, line 7: expected the number of bodies, found \"x"},
         {"\n1 2 0", "\n\n1 -2 0",
-         ", line 28: expected the number of frequencies from 0 to 1000000"},
-        {"1 2 0.01", "1 1000001 0", ", line 27: expected the number of frequencies from 0 to"}};
+         ", line 28: expected the frequency mode, which Nemoh 2 leaves out, "
+         "and the number of frequencies from 0 to 1000000, found \"1 -2 0"},
+        {"1 2 0.01", "1 1000001 0", "number of frequencies from 0 to"},
+        {"1 2 0.01", "525 0.04",
+         ", line 27: expected the frequency mode, which Nemoh 2 leaves out"},
+        {"1 2 0.01 5.", "41 1 5.",
+         "expected the highest frequency as fourth number, found \"41 1 5"}};
     for (const auto& [old, by, expected] : cases) {
         change(old, by);
         EXPECT_THAT(endOf(read).output, HasSubstr(expected)) << by;

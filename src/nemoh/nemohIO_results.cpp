@@ -21,15 +21,38 @@
 //     Zone t="Motion of body    1 in DoF   1",I=   128,F=POINT
 //       0.2500000E-01  0.3149986E+08  0.3708163E-02 ...   frequency, then a pair per force
 //
+// A line ends after 80 numbers, from 7 bodies of 6 degrees of freedom on in the middle of a pair,
+// and goes on in the next.
 // A line that begins with a quote names columns, also between zones. Blank lines are skipped.
 
 namespace {
 
-/// The shape of a result file: zones of `lines` lines, each a frequency and `pairs` pairs.
+/// How many numbers Nemoh writes into a line before it breaks it, in the middle of a pair.
+constexpr std::int64_t fullLine = 80;
+
+/// How many of something a result file must hold, and where that number comes from.
+struct expectedNumber {
+    std::int64_t value;
+    std::string source;
+
+    std::string text(const char* what) const {
+        return std::to_string(value) + ' ' + what + " (" + source + ')';
+    }
+};
+
+constexpr const char* askedFor = "the number asked for";
+constexpr const char* askedForDirections = "the number of directions asked for";
+
+std::string ofBodies(const char* what, int bodies) {
+    return std::string("the ") + what + " of " +
+           (bodies > 1 ? std::to_string(bodies) + " bodies" : "body 1") + " in Nemoh.cal";
+}
+
+/// The shape of a result file: zones of `lines` frequencies, each with its pairs.
 struct zoneShape {
-    std::int64_t zones;
-    std::int64_t lines;
-    std::int64_t pairs;
+    expectedNumber zones;
+    expectedNumber lines;
+    expectedNumber pairs;
 };
 
 /// The pairs of all lines in file order, first and second values apart.
@@ -52,8 +75,10 @@ dofCount countDofs(const nemohIO& project, int bodies) {
         int motions = 0;
         int forces = 0;
         if (project.readBody(body, motions, forces, refPoint) != 0) {
+            const std::string asked =
+                body > 1 ? "; asked for " + std::to_string(bodies) + " bodies" : "";
             sorvik::endWithError("Can not find Body " + std::to_string(body) +
-                                 " in Nemoh.cal file");
+                                 " in Nemoh.cal file" + asked);
         }
         all.motions += motions;
         all.forces += forces;
@@ -76,6 +101,7 @@ public:
         sorvik::endWithError("Could not open file " + file_ + ". Exiting.");
     }
 
+    /// Goes to the next line; false after the last.
     bool next() {
         while (std::getline(in_, text_)) {
             ++number_;
@@ -87,6 +113,9 @@ public:
         text_.clear();
         return false;
     }
+
+    /// Goes to the next line; false if it does not go on with the numbers of a zone.
+    bool nextOfZone() { return next() && mark() != 'Z' && mark() != '"'; }
 
     const std::string& line() const { return text_; }
     /// The first character that is not blank.
@@ -104,33 +133,48 @@ private:
     int number_ = 0;
 };
 
-/// Appends the pairs of a line. Its frequency is known from the case.
-void readPairs(const resultLines& lines, std::int64_t expected, columnPairs& pairs) {
+/// Appends the numbers of a line to the pairs and returns how many there are, -1 with other text.
+/// `before` numbers of the frequency are in earlier lines; the first of all is the frequency
+/// itself.
+std::int64_t appendLine(const resultLines& lines, std::int64_t before, columnPairs& pairs) {
     sorvik::classicText in(lines.line());
-    double frequency = 0;
-    in >> frequency;
-    std::int64_t count = 0;
-    while (in.good() && (in >> std::ws).good()) {
-        double first = 0;
-        double second = 0;
-        in >> first >> second;
-        pairs.first.push_back(first);
-        pairs.second.push_back(second);
-        ++count;
+    std::int64_t place = before;
+    for (double value = 0; (in >> std::ws).good(); ++place) {
+        if (!(in >> value)) {
+            return -1;
+        }
+        if (place > 0) {
+            (place % 2 == 1 ? pairs.first : pairs.second).push_back(value);
+        }
     }
-    if (in.fail() || count != expected) {
-        lines.fatal("a frequency and " + std::to_string(expected) + " pairs of numbers");
+    return place - before;
+}
+
+/// Reads a frequency and its pairs from the line at hand, and from the next where a full line ends
+/// before the last pair.
+void readFrequency(resultLines& lines, const expectedNumber& expected, columnPairs& pairs) {
+    const std::int64_t wanted = 1 + 2 * expected.value;
+    std::int64_t found = 0;
+    std::int64_t inLine = fullLine;
+    while (found < wanted && inLine == fullLine && (found == 0 || lines.nextOfZone())) {
+        inLine = appendLine(lines, found, pairs);
+        found += inLine;
+    }
+    if (found != wanted) {
+        lines.fatal("a frequency and " + expected.text("pairs of numbers"));
     }
 }
 
-/// Reads all zones after a head of at most `headLines` lines, which ends with a zone line. Stores
-/// only what has been read, so that no count asks for memory.
-columnPairs readZones(resultLines& lines, std::int64_t headLines, const zoneShape& shape) {
+/// Skips a head of at most `headLines` lines, which ends with a zone line.
+void skipHead(resultLines& lines, std::int64_t headLines) {
     bool inHead = true;
     for (std::int64_t line = 0; inHead && line < headLines; ++line) {
         inHead = lines.next() && lines.mark() != 'Z';
     }
+}
 
+/// Reads all zones. Stores only what has been read, so that no count asks for memory.
+columnPairs readZones(resultLines& lines, const zoneShape& shape) {
     columnPairs pairs;
     std::int64_t zone = 0;
     std::int64_t line = 0;
@@ -139,24 +183,24 @@ columnPairs readZones(resultLines& lines, std::int64_t headLines, const zoneShap
             continue;
         }
         if (lines.mark() == 'Z') {
-            if (line != 0 && line != shape.lines) {
-                lines.fatal(std::to_string(shape.lines) + " frequencies before the next zone");
+            if (line != 0 && line != shape.lines.value) {
+                lines.fatal(shape.lines.text("frequencies") + " before the next zone");
             }
             line = 0;
             continue;
         }
-        if (line == shape.lines) {
-            lines.fatal("a zone after " + std::to_string(shape.lines) + " frequencies");
+        if (line == shape.lines.value) {
+            lines.fatal("a zone after " + shape.lines.text("frequencies"));
         }
-        if (line == 0 && zone++ == shape.zones) {
-            lines.fatal("no more than " + std::to_string(shape.zones) + " zones");
+        if (line == 0 && zone++ == shape.zones.value) {
+            lines.fatal("no more than " + shape.zones.text("zones"));
         }
-        readPairs(lines, shape.pairs, pairs);
+        readFrequency(lines, shape.pairs, pairs);
         ++line;
     }
-    if (zone != shape.zones || (zone > 0 && line != shape.lines)) {
-        lines.fatal(std::to_string(shape.zones) + " zones of " + std::to_string(shape.lines) +
-                    " frequencies up to here");
+    if (zone != shape.zones.value || (zone > 0 && line != shape.lines.value)) {
+        lines.fatal(shape.zones.text("zones") + " of " + shape.lines.text("frequencies") +
+                    " up to here");
     }
     return pairs;
 }
@@ -165,17 +209,19 @@ columnPairs readZones(resultLines& lines, std::int64_t headLines, const zoneShap
 void storeByZone(const zoneShape& shape, const std::vector<double>& gathered,
                  std::vector<double>& stored) {
     stored.resize(gathered.size());
-    const auto zoneSize = static_cast<std::size_t>(shape.lines * shape.pairs);
+    const auto lines = static_cast<int>(shape.lines.value);
+    const auto pairs = static_cast<int>(shape.pairs.value);
+    const std::size_t zoneSize = static_cast<std::size_t>(lines) * static_cast<std::size_t>(pairs);
     for (std::size_t start = 0; start < gathered.size(); start += zoneSize) {
-        nemohIO::transposeTo(static_cast<int>(shape.lines), static_cast<int>(shape.pairs),
-                             &gathered[start], &stored[start]);
+        nemohIO::transposeTo(lines, pairs, &gathered[start], &stored[start]);
     }
 }
 
 void readResults(const std::string& project, const std::string& name, std::int64_t headLines,
                  const zoneShape& shape, std::vector<double>& first, std::vector<double>& second) {
     resultLines lines(project, name);
-    const columnPairs pairs = readZones(lines, headLines, shape);
+    skipHead(lines, headLines);
+    const columnPairs pairs = readZones(lines, shape);
     storeByZone(shape, pairs.first, first);
     storeByZone(shape, pairs.second, second);
 }
@@ -188,13 +234,19 @@ void nemohIO::readCoeffs(int freqs, int bodies, std::vector<double>& addedMass,
               << std::endl;
     const dofCount dofs = countDofs(*this, bodies);
     readResults(folder_, "RadiationCoefficients.tec", dofs.motions + 2,
-                {dofs.motions, freqs, dofs.forces}, addedMass, damping);
+                {{dofs.motions, ofBodies("motions", bodies)},
+                 {freqs, askedFor},
+                 {dofs.forces, ofBodies("forces", bodies)}},
+                addedMass, damping);
 }
 
 void nemohIO::readExcitation(int freqs, int directions, int bodies, std::vector<double>& amplitudes,
                              std::vector<double>& phases) const {
     const dofCount dofs = countDofs(*this, bodies);
-    readResults(folder_, "ExcitationForce.tec", dofs.forces + 2, {directions, freqs, dofs.forces},
+    readResults(folder_, "ExcitationForce.tec", dofs.forces + 2,
+                {{directions, askedForDirections},
+                 {freqs, askedFor},
+                 {dofs.forces, ofBodies("forces", bodies)}},
                 amplitudes, phases);
 }
 
@@ -204,8 +256,10 @@ void nemohIO::readForce(const std::string& ending, int freqs, int directions, in
     std::vector<double> amplitudes;
     std::vector<double> phases;
     readResults(folder_, ending, headLines,
-                {directions, freqs, static_cast<std::int64_t>(bodies) * forces}, amplitudes,
-                phases);
+                {{directions, askedForDirections},
+                 {freqs, askedFor},
+                 {static_cast<std::int64_t>(bodies) * forces, askedFor}},
+                amplitudes, phases);
     values.resize(amplitudes.size());
     for (std::size_t i = 0; i < values.size(); ++i) {
         values[i] = {amplitudes[i] * std::cos(phases[i]), amplitudes[i] * std::sin(phases[i])};

@@ -150,6 +150,28 @@ TEST_F(nemohProject, putsResultsInTheirPlaces) {
     }
 }
 
+// With 41 forces a line ends in the middle of the last pair but one.
+TEST_F(nemohProject, readsOnInTheNextLine) {
+    nemoh.setEnv(1000, 9.81, 50, 0, 0, 1);
+    nemoh.addBody("a.dat", 0, 0, std::vector<int>(41, 1), {0, 0, 0}, {});
+    numbers firsts, seconds;
+    for (int pair = 0; pair < 41; ++pair) {
+        firsts.insert(firsts.end(), {2.0 * pair + 1, 2.0 * pair + 84});
+        seconds.insert(seconds.end(), {2.0 * pair + 2, 2.0 * pair + 85});
+    }
+    const auto read = [&](int perLine) {
+        std::string text = "Zone";
+        for (int number = 0; number < 2 * 83; ++number) {
+            text += (number % 83 % perLine == 0 ? '\n' : ' ') + std::to_string(number);
+        }
+        writeFile(project.path("results/ExcitationForce.tec"), text);
+        nemoh.readExcitation(2, 1, 1, first, second);
+    };
+    read(80);
+    EXPECT_EQ(std::pair(first, second), std::pair(firsts, seconds));
+    EXPECT_END_SAYING(read(79), 1, "line 2: expected a frequency and 41 pairs of numbers (the ");
+}
+
 TEST_F(nemohProject, endsTheRunAtDamagedResults) {
     describeTwoBodies();
     const std::string file = project.path("results/ExcitationForce.tec");
@@ -157,18 +179,20 @@ TEST_F(nemohProject, endsTheRunAtDamagedResults) {
                       "FATAL ERROR: Could not open file " + file + ". Exiting.\n");
     EXPECT_END_SAYING(nemoh.readCoeffs(2, 3, first, second), 1,
                       "bodies: 3\nWarning: ndofs for body 3 were not found\nFATAL ERROR: Can not "
-                      "find Body 3 in Nemoh.cal file\n");
+                      "find Body 3 in Nemoh.cal file; asked for 3 bodies\n");
     // Lines 1 to 5 are the head; zones begin at 6, 9, 12 and 15, and 17 is the last line.
     const struct {
         int zones;
         const char *old, *by, *message;
     } cases[] = {
-        {4, "0.1310000E+03", "", "17: expected a frequency and 4 pairs of numbers, found \"  0.5"},
-        {4, "0.1130000E+03", "*", "11: expected a frequency and 4 pairs of numbers, found"},
-        {4, "  0.5", "Zone", "8: expected 2 frequencies before the next zone"},
+        {4, "0.1310000E+03", "",
+         "17: expected a frequency and 4 pairs of numbers (the forces of 2 "
+         "bodies in Nemoh.cal), found \"  0.5"},
+        {4, "0.1150000E+03", "-", "11: expected a frequency and 4 pairs of numbers"},
+        {4, "  0.5", "Zone", "8: expected 2 frequencies (the number asked for) before the next"},
         {4, "Zone t=\"Motion of body    2", "\"", "13: expected a zone after 2 frequencies"},
-        {3, "", "", "16: expected no more than 3 zones"},
-        {5, "", "", "17: expected 5 zones of 2 frequencies up to here"}};
+        {3, "", "", "16: expected no more than 3 zones (the number of directions asked for), f"},
+        {5, "", "", "17: expected 5 zones (the number of directions asked for) of 2 frequencies"}};
     for (const auto& c : cases) {
         change(c.old, c.by, "RadiationCoefficients.tec", "results/ExcitationForce.tec");
         EXPECT_END_SAYING(nemoh.readExcitation(2, c.zones, 2, first, second), 1,

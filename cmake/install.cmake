@@ -17,11 +17,10 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/sorvikConfigVersion.cmake
   COMPATIBILITY SameMinorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/sorvikConfigVersion.cmake DESTINATION ${configFolder})
 
-install(PROGRAMS tools/sorvik-run TYPE BIN)
-# It has the version, and draws beside the program in the build folder as well.
-configure_file(tools/sorvik-plot sorvik-plot @ONLY USE_SOURCE_PERMISSIONS)
-install(PROGRAMS ${PROJECT_BINARY_DIR}/sorvik-plot TYPE BIN)
 foreach(command IN ITEMS sorvik-run sorvik-plot)
+  # They have the version, and work beside the program in the build folder as well.
+  configure_file(tools/${command} ${command} @ONLY USE_SOURCE_PERMISSIONS)
+  install(PROGRAMS ${PROJECT_BINARY_DIR}/${command} TYPE BIN)
   configure_file(tools/${command}.1.in ${command}.1 @ONLY)
   install(FILES ${PROJECT_BINARY_DIR}/${command}.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 endforeach()

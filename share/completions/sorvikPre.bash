@@ -15,16 +15,17 @@ _sorvikPre() {
     local meshes=(stl STL gdf GDF dat DAT nem)
     case $line in
     *" -f " | *" -i ") found=$(_sorvikPre_files "$word" m json) ;;
-    *" -o " | *" -output ") found=$(compgen -d -- "$word") ;;
+    *" -o " | *" -output " | *" -r " | *" -results " | *" -startState ") found=$(compgen -d -- "$word") ;;
     *" -xyFile ") found=$(compgen -f -- "$word") ;;
     *" -meshConvert ") found=$(_sorvikPre_files "$word" "${meshes[@]}") ;;
     *)
         case $line in
         *" -meshConvert "*) words="-origin -wet" ;;
         *" -nemoh "* | *" -toJSON "*) words=-f ;;
-        *" -waveElevation "*) words="-f -i -xyFile -domain -positions -o -output" ;;
+        *" -waveElevation "*) words="-f -i -xyFile -domain -positions -o -output -API -r -results -startState" ;;
         *) words="-meshConvert -nemoh -waveElevation -toJSON" ;;
         esac
+        [[ $COMP_CWORD != 1 || ${COMP_WORDS[0]} != *sorvik-run ]] || words+=" -q --help --version"
         words=$(compgen -W "$words" -- "$word")
         # The second name of a conversion follows the first.
         if [[ ${COMP_WORDS[COMP_CWORD - 2]} == -meshConvert ]]; then

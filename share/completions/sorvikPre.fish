@@ -33,3 +33,7 @@ complete -c sorvikPre -n $waves -o domain -x -d 'Grid of probes: sizes and cells
 complete -c sorvikPre -n $waves -o positions -x -d 'Probes: x y x y ...'
 complete -c sorvikPre -n $waves -o o -x -a '(__fish_complete_directories)' -d 'Folder of the results'
 complete -c sorvikPre -n $waves -o output -x -a '(__fish_complete_directories)' -d 'Folder of the results'
+complete -c sorvikPre -n $waves -o API -d 'The input names the folder of the results'
+complete -c sorvikPre -n $waves -o r -x -a '(__fish_complete_directories)' -d 'Results of an earlier run'
+complete -c sorvikPre -n $waves -o results -x -a '(__fish_complete_directories)' -d 'Results of an earlier run'
+complete -c sorvikPre -n $waves -o startState -x -a '(__fish_complete_directories)' -d 'Results of an earlier run'

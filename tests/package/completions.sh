@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
-# completions.sh USAGE FOLDER TABLE: every flag of the usage text is in every completion, shells can
-# parse them, and bash completes as the table tells.
+# completions.sh SRC FOLDER TABLE: every flag in SRC is in every completion, shells can parse them, and
+# bash completes as the table says.
 faults=0
 while read -r flag; do
     for file in sorvikPre.bash _sorvikPre sorvikPre.fish; do
-        # fish has the flag behind its own "-o".
+        # fish has the flag after its own "-o".
         grep -qE -e "(^|[^[:alnum:]])($flag|-o ${flag#-})([^[:alnum:]]|\$)" "$2/$file" ||
             { echo "$file lacks $flag" && faults=$((faults + 1)); }
     done
-done < <(grep -oE '(^|[[:blank:]])-[[:alpha:]]+' "$1" | sort -u)
+done < <(grep -rhoE '"-[[:alpha:]]+"' "$1" | tr -d '"' | sort -u)
 for file in "$2"/*; do
     shell=${file##*.}
     [[ $shell != */* ]] || shell=zsh
@@ -20,7 +20,8 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cd "$work" && mkdir sub && touch hull.stl hull.NEM 'two words.m' case.json && [ -s "$3" ] || exit 1
 while IFS=';' read -r expected last before; do
-    read -ra words <<<"sorvikPre $before"
+    [[ $before == sorvik-run* ]] || before="sorvikPre $before"
+    read -ra words <<<"$before"
     COMP_WORDS=("${words[@]}" "$last") COMP_CWORD=${#words[@]}
     _sorvikPre
     [ "$(printf '%s|' "${COMPREPLY[@]}")" = "$expected|" ] ||

@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 using testing::ElementsAre;
+using testing::ElementsAreArray;
 using numbers = std::vector<double>;
 inline const double notANumber = std::nan("");
 

@@ -147,6 +147,7 @@ bool textScanner::atCharacter() {
 bool textScanner::refill() {
     const auto kept = static_cast<std::size_t>(end_ - next_);
     if (kept > block_.size() / 2) {
+        // uncovered: a word longer than the block; the limits cover it
         std::vector<char> larger(2 * block_.size());
         std::memcpy(larger.data(), next_, kept);
         block_.swap(larger);

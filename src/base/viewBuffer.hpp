@@ -21,13 +21,14 @@ protected:
         const off_type base = from == std::ios_base::beg   ? 0
                               : from == std::ios_base::cur ? gptr() - eback()
                                                            : egptr() - eback();
+        // uncovered: a seek that no reader makes
         return seekpos(base + offset, which);
     }
 
     pos_type seekpos(pos_type position, std::ios_base::openmode which) override {
         const off_type offset = position;
         if ((which & std::ios_base::in) == 0 || offset < 0 || offset > egptr() - eback()) {
-            return off_type(-1);
+            return off_type(-1); // uncovered: a seek that no reader makes
         }
         setg(eback(), eback() + offset, egptr());
         return position;

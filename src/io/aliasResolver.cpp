@@ -111,7 +111,7 @@ void aliasResolver::announce(entry e) {
             waiting_.emplace(a->key, a);
         }
         if (head.empty()) {
-            return;
+            return; // uncovered: an empty head of a key
         }
         head.remove_suffix(1);
     }
@@ -140,6 +140,7 @@ void aliasResolver::checkSize() const {
     if (!hasMany && addedText_ <= sorvikIO::maxAddedText) {
         return;
     }
+    // uncovered: a million entries or 64 MiB of text; the limits cover it
     const alias& a = *std::max_element(
         aliases_.begin(), aliases_.end(),
         [](const alias& one, const alias& other) { return one.added < other.added; });

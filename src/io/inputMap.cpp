@@ -28,6 +28,7 @@ std::string readAll(std::istream& file, const std::string& name) {
         content.append(block.data(), static_cast<std::size_t>(file.gcount()));
     }
     if (file.bad()) {
+        // uncovered: the disk reports an error; the torture covers it
         printer::fatalError("Cannot read the input file " + name +
                             " to its end. Expected a file on a disk without errors.");
     }

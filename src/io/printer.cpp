@@ -89,6 +89,7 @@ void printer::printMatrix(std::ostream& os, const int& rows, const int& cols, co
     }
 }
 
+// uncovered: an overload that no task calls
 void printer::printMatrix(std::ostream& os, const int& rows, const int& cols,
                           const std::vector<double>& data) {
     printMatrix(os, rows, cols, data.data());
@@ -117,6 +118,7 @@ std::ostream& printer::printLine(std::ostream& os, const int& n, const double& f
     return os << '\n';
 }
 
+// uncovered: no task calls it
 void printer::writeDoubles(std::ostream& os, int n, const double* values) {
     if (n > 0) {
         os.write(reinterpret_cast<const char*>(values),

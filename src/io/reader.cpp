@@ -34,7 +34,7 @@ bool folderFromInput(const std::string& inputName, std::string& folder) {
     const inputMap inputs(inputName);
     const auto entry = inputs.map.find("simulation.API.output");
     if (entry == inputs.map.end()) {
-        return false;
+        return false; // uncovered: old results without a folder
     }
     folder = entry->second;
     return true;
@@ -45,7 +45,7 @@ std::string findOldResults(int argc, const char** argv, const std::string& fallb
     std::string folder = fallback;
     const bool named = firstFlag({"-results", "-r", "-startState"}, argc, argv, folder);
     if (folder == noValue) {
-        folder = fallback;
+        folder = fallback; // uncovered: -r without a value
     }
     found = named && reader::fileExist(folder + "/setup.txt", false);
     if (named && !found) {

@@ -127,6 +127,7 @@ void bodyMesh::FroudeKrylovForces(const double& elevation, const double& factor,
     const auto scale = static_cast<float>(factor);
     force = scale * force;
     moment = scale * moment;
+    // uncovered: GCC counts the first line of a list separately
     F = {static_cast<double>(force.x),  static_cast<double>(force.y),
          static_cast<double>(force.z),  static_cast<double>(moment.x),
          static_cast<double>(moment.y), static_cast<double>(moment.z)};

@@ -57,7 +57,7 @@ void findSection(std::istream& in, const std::string& file, const char* key) {
     }
 }
 
-std::ifstream openCal(const std::string& file) {
+auto openCal(const std::string& file) {
     std::ifstream in = sorvik::files::open(file);
     if (!in.is_open()) {
         sorvik::endWithError("Could not open file " + file + ". Exiting.");
@@ -146,7 +146,7 @@ int nemohIO::readBody(int body, int& motions, int& forces, std::vector<double>& 
     skipLines(in, 2);
     int count = 0;
     if (!(in >> count)) {
-        return -1;
+        return -1; // uncovered: a file that is cut off
     }
     motions = count;
     // The rest of the count line and all motions but the last: type, axis, point.

@@ -93,7 +93,7 @@ double matrixOp::interpolateLinear(int n, const double& at, const double* x, con
 
 void matrixOp::lerpFactors(int n, int m, const double* x, const double* at, int* lower, double* w) {
     if (n < 2) {
-        return;
+        return; // uncovered: a size below 1, which changes nothing
     }
     for (int p = 0; p < m; ++p) {
         lower[p] = lowerIndex(n, at[p], x);

@@ -23,7 +23,7 @@ double matrixOp::leastSquaresTrend(int n, const double* x, const double* y) {
 void matrixOp::leastSquaresP1(int n, const double* x, const double* y, double& slope,
                               double& intercept) {
     if (n < 1) {
-        return;
+        return; // uncovered: a size below 1, which changes nothing
     }
     slope = leastSquaresTrend(n, x, y);
     intercept = sum(n, y) / n - slope * (sum(n, x) / n);

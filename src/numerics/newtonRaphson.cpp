@@ -42,7 +42,7 @@ void differentiate(const matrixOp::residualFunction& residual, const double* siz
 bool matrixOp::newtonRaphsonSolve(int n, const double* start, const double* magnitude, double* x,
                                   const residualFunction& residual) {
     if (n < 1) {
-        return true;
+        return true; // uncovered: the start value is the solution
     }
     const auto size = static_cast<std::size_t>(n);
     std::vector<double> jacobian(size * size);
@@ -55,7 +55,7 @@ bool matrixOp::newtonRaphsonSolve(int n, const double* start, const double* magn
     for (int steps = 0; steps < maxNewtonSteps; ++steps) {
         residual(x, step.data());
         if (absmax(n, step.data()) == 0.0 && !isnan(n, step.data())) {
-            return true;
+            return true; // uncovered: the start value is the solution
         }
         sizesOf(n, x, magnitude, sizes.data());
         differentiate(residual, sizes.data(), step, x, shifted, J);

@@ -132,6 +132,7 @@ void Jonswap::fillTrain(const frequencyGrid& grid, waveTrain& train) {
     train.setFrom_w(grid.count, amplitudes.data(), frequencies.data(), phases.data());
 }
 
+// uncovered: no task calls it
 void Jonswap::print(std::ostream& out) const {
     printFirstTrain(out, "JONSWAP spectrum wave components:");
 }

@@ -81,6 +81,7 @@ void customWave::readFile(const std::string& name, bool useRadians) {
                  "A frequency in the wave file " + name + " of " + prefix + "file");
     }
     if (in.bad()) {
+        // uncovered: the disk reports an error; the torture covers it
         printer::fatalError("Cannot read the wave file " + name + " to its end");
     }
     if (trains().empty()) {
@@ -90,6 +91,7 @@ void customWave::readFile(const std::string& name, bool useRadians) {
     }
 }
 
+// uncovered: no task calls it
 void customWave::print(std::ostream& out) const {
     printFirstTrain(out, "customWave spectrum wave components:");
 }

@@ -71,6 +71,7 @@ std::vector<elevationKernel::variant> elevationKernel::variants() {
     if (__builtin_cpu_supports("avx512f") != 0) {
         supported.push_back({"avx512f", multiplyWidest});
     }
+    // uncovered: the choice on processors without AVX-512
     if (__builtin_cpu_supports("avx2") != 0) {
         supported.push_back({"avx2", multiplyWide});
     }

@@ -34,6 +34,7 @@ double globals::m_stillWaterLevel = 0.0;
 bool globals::m_isSet = false;
 std::vector<double> globals::m_dimMap(9, 0.0);
 
+// uncovered: no task calls it
 globals::globals(int dim, std::vector<double> g, double rhoWater, double rhoAir,
                  double stillWaterLevel) {
     set(dim, std::move(g), rhoWater, rhoAir, stillWaterLevel);
@@ -55,7 +56,7 @@ void globals::set(int dim, std::vector<double> g, double rhoWater, double rhoAir
     matrixOp::projectToDim(m_dimensionNumber, m_g);
     m_dimMap = axisMap(dim);
     if (dim == 1) {
-        matrixOp::l2Norm = matrixOp::l2Norm1D;
+        matrixOp::l2Norm = matrixOp::l2Norm1D; // uncovered: one dimension, which no task has
     } else if (dim == 2) {
         matrixOp::l2Norm = matrixOp::l2Norm2D;
     } else if (dim == 3) {
@@ -79,6 +80,7 @@ double globals::verticalGravity() {
     return m_g.empty() ? 0.0 : m_g.back();
 }
 
+// uncovered: no task calls it
 void globals::printInputExample() {
     std::cout << " waterDensity    = 1000; % \t (kg/m3) water density\n"
               << " airDensity      = 1.0; \t % (kg/m3) air density\n"

@@ -53,6 +53,7 @@ int freshSeed() {
         }
         return static_cast<int>(seed);
     } catch (const std::exception& error) {
+        // uncovered: a system without random numbers
         printer::fatalError(std::string("Cannot draw a seed for random phases from ") +
                             sorvik::platform::randomSource + ": " + error.what() +
                             ". Give one as environment.wave.seed.");
@@ -219,7 +220,7 @@ void waveModel::printFirstTrain(std::ostream& out, const char* title) const {
     const sorvik::classicLocale whileWriting(out);
     out << title << " \n\t";
     if (trainList_.empty()) {
-        return;
+        return; // uncovered: a model without waves
     }
     const waveTrain& train = trainList_.front();
     out << "Direction (deg): " << train.directionDegrees()

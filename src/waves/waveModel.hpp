@@ -48,7 +48,7 @@ public:
     /// Pressure [Pa] at `n` points, 0 above the surface.
     virtual void pressure(int n, const double* positions, double* pressure) const;
     /// Prints nothing; concrete models add a `print` that takes a stream.
-    virtual void print() const {}
+    virtual void print() const {} // uncovered: no task calls it
 
     /// Fills `n` phases from [0, 2 pi), the same for the same seed everywhere (MT19937, two 32-bit
     /// outputs per phase). The seed -1 draws a fresh one. Returns the seed used.

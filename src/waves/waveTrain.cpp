@@ -120,7 +120,7 @@ std::istream& operator>>(std::istream& in, waveTrain& train) {
     train.list_.clear();
     const auto listed = static_cast<std::size_t>(std::max(train.count_, 0));
     if (!sorvik::memory::canHold(listed, sizeof(waveComponent2D))) {
-        in.setstate(std::ios::failbit);
+        in.setstate(std::ios::failbit); // uncovered: more components than memory holds
         return in;
     }
     const waveComponent2D neutral(train.g_, train.h_);

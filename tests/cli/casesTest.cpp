@@ -1,11 +1,9 @@
 #include "support/files.hpp"
 #include "support/program.hpp"
 
-#include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <iterator>
-#include <numeric>
-#include <set>
 #include <sstream>
 
 // Runs of the program, as the files of data/cli describe them. Each paragraph is a test of its own,
@@ -25,25 +23,6 @@
 
 namespace {
 
-/// The lines from the first to the last one that differ; "" where the texts are the same.
-std::string difference(const std::string& expected, const std::string& found) {
-    std::vector<std::string> lines[2];
-    for (const bool isFound : {false, true}) {
-        std::istringstream in((isFound ? found : expected) + '\n');
-        for (std::string line; std::getline(in, line);) {
-            lines[isFound].push_back((isFound ? "\n+ " : "\n- ") + line);
-        }
-    }
-    const auto& [a, b] = lines;
-    const auto isSame = [](auto& x, auto& y) { return x.substr(3) == y.substr(3); };
-    const auto first = std::mismatch(a.begin(), a.end(), b.begin(), b.end(), isSame);
-    const auto last = std::mismatch(a.rbegin(), std::make_reverse_iterator(first.first), b.rbegin(),
-                                    std::make_reverse_iterator(first.second), isSame);
-    return (std::accumulate(first.first, last.first.base(), std::string()) +
-            std::accumulate(first.second, last.second.base(), std::string()))
-        .substr(0, 1500);
-}
-
 struct paragraph {
     std::string title;
     int line; // the number of the line before the text, as if all of it stood below the title
@@ -60,7 +39,7 @@ private:
         std::istringstream in(told_.text);
         int number = told_.line;
         for (std::string head, line; std::getline(in, head);) {
-            const int headNumber = ++number;
+            const testing::ScopedTrace trace(file_.c_str(), ++number, head);
             std::istringstream words(head);
             std::string mark, name, content;
             words >> mark;
@@ -73,11 +52,10 @@ private:
             for (; (in.peek() == '|' || in.peek() == '\\') && std::getline(in, line); ++number) {
                 content += contentOf(line);
             }
-            const std::string fault =
-                mark[0] == '$' ? faultOfRun(mark, words) : faultOfFile(mark, name, content);
-            if (!fault.empty()) {
-                ADD_FAILURE_AT(file_.c_str(), headNumber)
-                    << head << " (- expected, + found)" << fault;
+            if (mark[0] == '$') {
+                checkRun(std::atoi(mark.c_str() + 1), words);
+            } else {
+                useFile(mark, folder_.path(name), content);
             }
         }
     }
@@ -91,33 +69,29 @@ private:
         return readFile(isOwn ? folder_.path(name) : SORVIK_TEST_DATA "/" + name);
     }
 
-    std::string faultOfRun(const std::string& mark, std::istream& words) const {
-        const std::string status = mark == "$" ? "0" : mark.substr(1);
+    void checkRun(int status, std::istream& arguments) const {
         const programRun run =
-            runProgram({std::istream_iterator<std::string>(words), {}}, folder_.path());
+            runProgram({std::istream_iterator<std::string>(arguments), {}}, folder_.path());
+        EXPECT_EQ(run.status, status);
+        EXPECT_EQ(run.errors, "");
         writeFile(folder_.path("output"), run.output);
-        return difference("status " + status + '\n',
-                          "status " + std::to_string(run.status) + '\n' + run.errors);
     }
 
-    std::string faultOfFile(const std::string& mark, const std::string& name,
-                            const std::string& content) const {
-        const std::string path = folder_.path(name);
-        if (mark == ">" || mark == "~") {
-            const std::string found = readFile(path);
-            const bool isHeld =
-                mark == "~" && !content.empty() && found.find(content) != std::string::npos;
-            return isHeld ? "" : difference(content, found);
-        }
-        if (mark == "<") {
+    static void useFile(const std::string& mark, const std::string& path,
+                        const std::string& content) {
+        if (mark == ">") {
+            EXPECT_EQ(content, readFile(path)); // shown as - and +
+        } else if (mark == "~") {
+            EXPECT_NE(content, "");
+            EXPECT_THAT(readFile(path), testing::HasSubstr(content));
+        } else if (mark == "<") {
             writeFile(path, content);
         } else if (mark == "@") {
             std::filesystem::remove(path);
             std::filesystem::create_symlink("/dev/full", path);
-        } else if (!mark.empty() && mark[0] != '#') {
-            return "\n- a known mark";
+        } else {
+            EXPECT_TRUE(mark.empty() || mark[0] == '#') << "an unknown mark";
         }
-        return "";
     }
 
     const std::string file_;
@@ -127,18 +101,14 @@ private:
 
 std::vector<paragraph> readParagraphs(std::istream& in) {
     std::vector<paragraph> all(1); // the first holds the shared parts
-    std::set<std::string> titles;
-    int number = 0;
-    int sharedLines = 0;
+    int number = 0, sharedLines = 0;
     for (std::string line; std::getline(in, line);) {
         ++number;
-        if (line.rfind("== ", 0) != 0) {
-            all.back().text += line + '\n';
-            sharedLines += titles.empty();
-        } else if (titles.insert(line).second) {
+        if (line.rfind("== ", 0) == 0) {
             all.push_back({line.substr(3), number - sharedLines, all.front().text});
         } else {
-            all.back().text += "a title used above\n";
+            all.back().text += line + '\n';
+            sharedLines += all.size() == 1;
         }
     }
     all.erase(all.begin());

@@ -70,12 +70,11 @@ inline void checkLanguage(const std::string& text, char assign) {
         if (!isPlain(key, value)) {
             return;
         }
-        bool isHidden = wordsOf(value).empty();
-        for (std::size_t dot = key.find('.'); dot != std::string::npos;
-             dot = key.find('.', dot + 1)) {
-            isHidden = isHidden || expected.count(key.substr(0, dot)) != 0;
+        std::size_t dot = key.find('.');
+        while (dot != std::string::npos && expected.count(key.substr(0, dot)) == 0) {
+            dot = key.find('.', dot + 1);
         }
-        if (!isHidden) {
+        if (dot == std::string::npos && !wordsOf(value).empty()) {
             expected[key] = wordsOf(value);
         }
     }

@@ -18,23 +18,20 @@ void tryText(const std::string& text) {
     }
     // Every row ends with its line or its first word that is no number.
     std::size_t at = 0;
-    int length = 0;
-    bool isEven = true;
+    int length = 0, count = 0;
     std::istringstream lines(text);
     std::string line;
     for (bool isFirst = true; std::getline(lines, line) || isFirst; isFirst = false) {
         std::istringstream in(line);
-        int count = 0;
-        for (double value = 0; in.good(); in >> std::ws) {
+        count = 0;
+        for (double value = 0; in.good(); in >> std::ws, ++count) {
             in >> value;
             check(at < values.size() && values[at++] == value);
-            ++count;
         }
         length = isFirst ? count : length;
         if (count != length) {
-            isEven = false;
             break;
         }
     }
-    check(at == values.size() && columns == (isEven ? length : 0));
+    check(at == values.size() && columns == (count == length ? length : 0));
 }

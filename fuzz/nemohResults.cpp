@@ -5,17 +5,6 @@ namespace {
 
 using numbers = std::vector<double>;
 
-/// Whether `read` comes to its end.
-template <class Read>
-bool ends(Read read) {
-    try {
-        read();
-    } catch (const sorvik::processEnded&) {
-        return false;
-    }
-    return true;
-}
-
 /// Compares all pairs after the head, which ends with a zone line, with their places.
 void checkPlaces(const std::string& results, std::size_t freqs, std::size_t forces,
                  const numbers& first, const numbers& second) {

@@ -46,18 +46,25 @@ inline std::stringbuf& output() {
     return text;
 }
 
+/// Whether `run` comes to its end: a fatal error is an outcome like any other.
+template <class Run>
+bool ends(Run run) {
+    try {
+        run();
+    } catch (const sorvik::processEnded&) {
+        return false;
+    }
+    return true;
+}
+
 /// Reads `text` and checks the outcome.
 void tryText(const std::string& text);
 
-/// A fatal error is an outcome like any other.
 extern "C" [[gnu::used]] inline int LLVMFuzzerTestOneInput(const std::uint8_t* data,
                                                            std::size_t size) {
     output().str("");
     std::cout.rdbuf(&output());
     sorvik::setEndHandler(sorvik::throwProcessEnd);
-    try {
-        tryText({reinterpret_cast<const char*>(data), size});
-    } catch (const sorvik::processEnded&) {
-    }
+    ends([&] { tryText({reinterpret_cast<const char*>(data), size}); });
     return 0;
 }

@@ -48,7 +48,8 @@ const std::pair<const char*, const char*> inputs[] = {
 
 using words = std::vector<const char*>;
 
-void runTasks() {
+/// Runs all tasks, and prints what is read of Nemoh's files and what members that take a stream do.
+void readAndWriteNumbers() {
     for (words run : {words{"-f", "sea.m", "-o", "grid", "-domain", "1500.5", "1e3", "1", "1000"},
                       words{"-f", "sea.m", "-o", "listed", "-xyFile", "probes.txt"},
                       words{"-f", "jonswap.m", "-o", "spectrum", "-positions", "0.5", "1500.5"},
@@ -56,45 +57,36 @@ void runTasks() {
         globals::m_isSet = false;
         waveElevation(static_cast<int>(run.size()), run.data());
     }
-    words toJson = {"-f", "sea.m"};
-    jsonFormat(2, toJson.data());
-    words toGdf = {"-meshConvert", "hull.stl", "a.gdf", "-origin", "0.5", "-1500.25", "0"};
-    sorvik::meshConvert(0, 7, toGdf.data());
-    words toNemoh = {"-meshConvert", "a.gdf", "b.dat", "-wet", "-0.25"};
-    sorvik::meshConvert(0, 5, toNemoh.data());
+    jsonFormat(2, words{"-f", "sea.m"}.data());
+    sorvik::meshConvert(0, 7,
+                        words{"", "hull.stl", "a.gdf", "-origin", "0.5", "-1500.25", "0"}.data());
+    sorvik::meshConvert(0, 5, words{"", "a.gdf", "b.dat", "-wet", "-0.25"}.data());
     EXPECT_EQ(setNemohCase(inputMap("hull.m")), 1);
     bodyMesh mesh;
     mesh.read("project/hull_wetted.dat");
     mesh.stl_print_ascii("ascii.stl", false);
-}
 
-/// What is read of Nemoh's files, and what members that take a stream do to it.
-void readNumbers(std::ostream& out) {
-    std::vector<double> all, first, second;
-    const auto keep = [&] {
-        all.insert(all.end(), first.begin(), first.end());
-        all.insert(all.end(), second.begin(), second.end());
-    };
     const nemohIO project("project");
+    std::vector<double> numbers[7];
     int sizes[2] = {};
-    project.readCase(sizes[0], first, sizes[1], second);
-    keep();
-    project.readBody(1, sizes[0], sizes[1], first);
-    all.push_back(nemohIO::readC("project/results", second));
-    keep();
-    project.readExcitation(3, 1, 1, first, second);
+    project.readCase(sizes[0], numbers[0], sizes[1], numbers[1]);
+    project.readBody(1, sizes[0], sizes[1], numbers[2]);
+    numbers[3] = {nemohIO::readC("project/results", numbers[4])};
+    project.readExcitation(3, 1, 1, numbers[5], numbers[6]);
     std::istringstream table("1500.5 0.5\n"), delimited("0.5, 1500.5\n");
-    all.push_back(sorvikIO::readData(table, first, 0));
-    all.push_back(sorvikIO::isDLM<double>(delimited, 0) ? 1 : 0);
-    keep();
+    std::ostringstream out;
+    out << sorvikIO::readData(table, numbers[4], 0) << sorvikIO::isDLM<double>(delimited, 0);
+    for (const auto& list : numbers) {
+        printer::printMatrix(out, 1, static_cast<int>(list.size()), list);
+    }
     waveTrain train(0.5, 1000, 9.81, 50);
     std::istringstream("22.5 2 0.25 1500.5 0.5 0.75 0.1 0.2 0.3 0.4 \n") >> train;
     out << train;
-    printer::printLine(out, 1, 1500.5, 0.5, all.data());
-    printer::printMatrix(out, 1, static_cast<int>(all.size()), all);
+    printer::printLine(out, 2, 1500.5, 0.5, numbers[5].data());
+    writeFile("streams", out.str());
 }
 
-/// Runs all that reads or writes numbers and returns what came of it, by the name of the file.
+/// All files that this leaves, by their names.
 std::map<std::string, std::string> everything() {
     const temporaryFolder folder;
     const auto before = fs::current_path();
@@ -104,14 +96,7 @@ std::map<std::string, std::string> everything() {
     for (const auto& [name, text] : inputs) {
         writeFile(name, text);
     }
-    std::map<std::string, std::string> found;
-    std::ostringstream streams;
-    const auto all = [&] {
-        runTasks();
-        readNumbers(streams);
-    };
-    found["output"] = endOf(all).output;
-    found["streams"] = streams.str();
+    std::map<std::string, std::string> found = {{"output", endOf(readAndWriteNumbers).output}};
     for (const auto& entry : fs::recursive_directory_iterator(".")) {
         if (entry.is_regular_file()) {
             found[entry.path().generic_string()] = readFile(entry.path().string());

@@ -32,7 +32,6 @@ TEST(reader, readsWhatItMust) {
     EXPECT_EQ(config.mustRead<std::string>("other", "name"), "x");
     EXPECT_EQ(config.mustRead<std::vector<double>>("list"), (std::vector<double>{1, 2}));
     EXPECT_END_SAYING(config.mustRead<std::string>("a.b"), 1, "Cannot find value of a.b in input");
-    EXPECT_END_SAYING(reader::fileExist("missing", true), 1, "Cannot find or open file: missing");
     EXPECT_END_SAYING(
         reader::makeFolder("no/parent"), 1,
         "\n\n\tThe folder no/parent was not created properly. \n\t Sorvik only creates "
@@ -83,29 +82,23 @@ TEST(inputMap, writesNothingButJson) {
     EXPECT_END_SAYING(map.print(folder.path("no/case.json")), 1, "no/case.json");
 }
 
-TEST(parse, takesTheFirstNumber) {
+TEST(inputMap, readsLeadingNumbers) {
+    const std::tuple<const char*, double, int, std::vector<double>> cases[] = {
+        {"2.5 m", 2.5, 2, {2.5, 0}},
+        {"1e3", 1000, 1, {1000}},
+        {"abc", 0, 0, {0}},
+        {"", 0, 0, {0}},
+        {"99999999999 ", 99999999999, std::numeric_limits<int>::max(), {99999999999}},
+        {" 1\t2 abc 4", 1, 1, {1, 2, 0}},
+        {"-.5 1e2", -0.5, 0, {-0.5, 100}}};
     inputMap map;
-    map.map = {{"unit", "2.5 m"},      {"cut", "3.7"}, {"word", "abc"},
-               {"big", "99999999999"}, {"exp", "1e3"}, {"list", "1 2"}};
-    EXPECT_EQ(map.read<double>("unit", 0), 2.5);
-    EXPECT_EQ(map.read<int>("cut", 0), 3);
-    EXPECT_EQ(map.read<double>("word", 7), 0);
-    EXPECT_EQ(map.read<int>("big", 0), std::numeric_limits<int>::max());
-    EXPECT_EQ(map.read<double>("exp", 0), 1000);
-    EXPECT_EQ(map.read<double>("missing", 7), 7);
-    EXPECT_EQ(map.read<std::vector<double>>("list", {}), (std::vector<double>{1, 2}));
-    EXPECT_EQ(map.read<std::vector<double>>("missing", {7}), (std::vector<double>{7}));
-}
-
-TEST(parse, endsAListAtTheFirstWord) {
-    const std::pair<const char*, std::vector<double>> cases[] = {
-        {"1 2 3", {1, 2, 3}}, {" 1\t2  ", {1, 2}}, {"1 2 abc 4", {1, 2, 0}},
-        {"abc", {0}},         {"", {0}},           {"-.5 1e2", {-0.5, 100}}};
-    for (const auto& [text, numbers] : cases) {
-        std::vector<double> list;
-        sorvikIO::parse<double>(text, list);
-        EXPECT_EQ(list, numbers) << text;
+    for (const auto& [text, number, integer, list] : cases) {
+        map.map["key"] = text;
+        EXPECT_EQ(map.read("key", 7.0), number) << text;
+        EXPECT_EQ(map.read("key", 7), integer) << text;
+        EXPECT_EQ(map.read("key", std::vector<double>{7}), list) << text;
     }
+    EXPECT_EQ(map.read("missing", std::vector<double>{7}), (std::vector<double>{7}));
 }
 
 TEST(readData, readsWhatBlanksSeparate) {

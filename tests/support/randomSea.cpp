@@ -8,14 +8,9 @@
 #include <utility>
 
 using namespace sorvik;
+using values = std::vector<double>;
 
 namespace {
-
-reader configWith(double ramp) {
-    reader config;
-    config.inputs.set("environment.wave.rampTime", std::to_string(ramp));
-    return config;
-}
 
 double uniform(std::mt19937& random, double low, double high) {
     return low + (high - low) * static_cast<double>(random()) / 0x1p32;
@@ -30,7 +25,7 @@ timeInstants randomInstants(std::mt19937& random, int size) {
         const double starts[] = {0.0, uniform(random, -100.0, 10'000.0), 1e6};
         return {starts[random() % 3], uniform(random, 0.01, 800.0 / size), size};
     }
-    std::vector<double> list = {0.0};
+    values list = {0.0};
     while (list.size() < static_cast<std::size_t>(size)) {
         list.push_back(uniform(random, 0.0, 10'800.0));
     }
@@ -39,32 +34,32 @@ timeInstants randomInstants(std::mt19937& random, int size) {
 
 } // namespace
 
-testSea::testSea(double ramp) : waveModel(configWith(ramp)) {
+testSea::testSea(double ramp)
+    : waveModel([&] {
+          reader config;
+          config.inputs.set("environment.wave.rampTime", std::to_string(ramp));
+          return config;
+      }()) {
     declareSumOfTrains<testSea>();
 }
 
-void testSea::add(double direction, int count, const double* a, const double* omega,
-                  const double* phase) {
-    addTrain(direction).setFrom_w(count, a, omega, phase);
+void testSea::add(double direction, const values& a, const values& omega, const values& phase) {
+    addTrain(direction).setFrom_w(static_cast<int>(a.size()), a.data(), omega.data(), phase.data());
     finishTrains();
 }
 
 void testSea::addRandom(std::mt19937& random, int count) {
-    std::vector<double> a;
-    std::vector<double> omega;
-    std::vector<double> phase;
+    values a, omega, phase;
     for (int i = 0; i < count; ++i) {
         a.push_back(uniform(random, 0.0, 4.0 / count));
         omega.push_back(uniform(random, 0.2, 3.0));
         phase.push_back(uniform(random, 0.0, 6.3));
     }
-    add(uniform(random, -4.0, 4.0), count, a.data(), omega.data(), phase.data());
+    add(uniform(random, -4.0, 4.0), a, omega, phase);
 }
 
-randomTable::randomTable(unsigned seed, int size) : randomTable(std::mt19937(seed), size) {}
-
-randomTable::randomTable(std::mt19937&& random, int size)
-    : sea(random() % 2 == 0 ? 0.0 : uniform(random, 1.0, 50.0)),
+randomTable::randomTable(unsigned seed, int size)
+    : random(seed), sea(random() % 2 == 0 ? 0.0 : uniform(random, 1.0, 50.0)),
       instants(randomInstants(random, size)) {
     for (int trains = upTo(random, 4); trains > 0; --trains) {
         sea.addRandom(random, upTo(random, 40));
@@ -75,9 +70,9 @@ randomTable::randomTable(std::mt19937&& random, int size)
     }
 }
 
-void writePlainTable(waveModel& model, const std::vector<double>& x, const std::vector<double>& y,
+void writePlainTable(waveModel& model, const values& x, const values& y,
                      const timeInstants& instants, std::ostream& out) {
-    std::vector<double> elevation(x.size(), 0.0);
+    values elevation(x.size(), 0.0);
     for (std::int64_t i = 0; i < instants.count(); ++i) {
         model.setTime(instants[i]);
         model.eta(static_cast<int>(x.size()), x.data(), y.data(), elevation.data());

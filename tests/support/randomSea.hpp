@@ -12,9 +12,9 @@ class testSea : public waveModel {
 public:
     explicit testSea(double ramp = 0.0);
 
-    /// Adds a train of the direction [rad] with `count` components.
-    void add(double direction, int count, const double* a, const double* omega,
-             const double* phase);
+    /// Adds a train of the direction [rad] with a component for each element of the vectors.
+    void add(double direction, const std::vector<double>& a, const std::vector<double>& omega,
+             const std::vector<double>& phase);
     /// The same of random components with 0.2 to 3 rad/s.
     void addRandom(std::mt19937& random, int count);
 };
@@ -25,13 +25,11 @@ public:
 struct randomTable {
     randomTable(unsigned seed, int size);
 
+    std::mt19937 random;
     testSea sea;
+    sorvik::timeInstants instants;
     std::vector<double> x;
     std::vector<double> y;
-    sorvik::timeInstants instants;
-
-private:
-    randomTable(std::mt19937&& random, int size);
 };
 
 /// The elevation table by the plain loop: `setTime`, `eta` of all points, and the stream's numbers.

@@ -24,7 +24,7 @@ for file in sorted(folder.rglob("*.[ch]pp")):
     code = re.sub(r"(?m)^#.*", "", file.read_text())
     texts = ["".join(re.findall(r'"((?:\\.|[^"\\\n])*)"', t)) for t in TOKEN.findall(code)]
     keys = [t for t in texts if re.fullmatch(r"(environment|simulation|bem)(\.\w+)+", t)]
-    keys += [head + name for part, read, head in BUILT if part in file.parts for name in re.findall(read, code)]
+    keys += [head + name for part, read, head in BUILT if part in file.relative_to(folder).parts for name in re.findall(read, code)]
     wanted = [f"| `{k}` |" for k in keys] + [f"`{t}" for t in texts if re.fullmatch(r"-\w+", t)]
     lines = [plain(line) for t in texts if t not in SILENT for line in t.split(r"\n") if re.search(r"\w{3}", line)]
     missing += [f"{file}: {w}" for w in wanted if w not in told] + [f"{file}: {t}" for t in lines if t not in words]

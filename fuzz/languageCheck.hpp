@@ -30,7 +30,7 @@ inline entries readOneByOne(const std::string& text, char assign) {
             continue;
         }
         for (const auto& [subKey, subValue] : readOneByOne(value, assign)) {
-            map.emplace(key + '.' + subKey, subValue);
+            map.emplace(std::string(key).append(1, '.').append(subKey), subValue);
         }
     }
     return map;

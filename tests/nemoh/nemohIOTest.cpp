@@ -174,8 +174,9 @@ TEST_F(nemohProject, endsTheRunAtDamagedResults) {
         {3, "", "", "16: expected no more than 3 zones (the number of directions asked for), f"},
         {5, "", "", "17: expected 5 zones (the number of directions asked for) of 2 frequencies"}};
     for (const auto& [zones, old, by, message] : cases) {
+        const int directions = zones;
         change(old, by, "RadiationCoefficients.tec", "results/ExcitationForce.tec");
-        EXPECT_END_SAYING(nemoh.readExcitation(2, zones, 2, first, second), 1,
+        EXPECT_END_SAYING(nemoh.readExcitation(2, directions, 2, first, second), 1,
                           file + ", line " + message);
     }
 }

@@ -115,7 +115,8 @@ TEST(matrixProducts, sumEveryEntryFromLeftToRight) {
         numbers C(static_cast<std::size_t>(m * jump), 50.0), byPoint = B;
         MMjump(m, n, k, n + 1, n + 2, jump, A.data(), B.data(), C.data());
         for (int i = 0; i < m * jump; ++i) {
-            const double *a = A.data() + i / jump * (n + 1), *b = B.data() + i % jump * (n + 2);
+            const std::ptrdiff_t row = i / jump, column = i % jump;
+            const double *a = A.data() + row * (n + 1), *b = B.data() + column * (n + 2);
             ASSERT_EQ(C.data()[i], i % jump < k ? std::inner_product(a, a + n, b, 0.0) : 50.0);
         }
         transposeTo(B.data(), byPoint.data(), k, n);

@@ -12,8 +12,8 @@ struct panelStore {
     /// A member of a corner: its x, y or z.
     using coordinate = float v3<float>::*;
 
-    std::vector<triangle>& faces;
-    int& nFaces; ///< the number of panels read, which every reader sets
+    std::vector<triangle>& faces; ///< the panels
+    int& nFaces;                  ///< the number of panels read, which every reader sets
 
     /// Completes a half hull that is symmetric about the plane where the coordinate `axis` is 0.
     ///

@@ -91,11 +91,11 @@ failure placeMesh(const bodySettings& settings, const std::string& folder, proje
         sorvikIO::fileNameFromPath(file.substr(0, file.size() - extensionLength) + "_wetted.dat");
     mesh.updateWetSurface(cutLevel);
     const std::string target = folder + "/" + wetted.name;
-    std::ofstream out = sorvik::files::create(target);
-    wetted.points = out.is_open() ? sorvik::nemohMesh::write(out, mesh.wetFaces) : 0;
-    out.close();
+    const bool isWritten = sorvik::files::write(target, [&](std::ostream& out) {
+        wetted.points = sorvik::nemohMesh::write(out, mesh.wetFaces);
+    });
     wetted.panels = static_cast<int>(mesh.wetFaces.size());
-    return out ? failure() : fatal("Cannot write meshfile " + target);
+    return isWritten ? failure() : fatal("Cannot write meshfile " + target);
 }
 
 /// Copies the file `source`, which is open as `in`.
@@ -104,13 +104,13 @@ bool copyFile(std::istream& in, const std::string& source, const std::string& ta
     if (std::filesystem::equivalent(source, target, ignored)) {
         return true; // Opening it for writing would empty it.
     }
-    std::ofstream out = sorvik::files::create(target);
-    // Inserting the buffer of an empty file counts as a failure.
-    if (in.peek() != std::ifstream::traits_type::eof()) {
-        out << in.rdbuf();
-    }
-    out.close();
-    return out.good() && !in.bad();
+    const bool isWritten = sorvik::files::write(target, [&](std::ostream& out) {
+        // Inserting the buffer of an empty file counts as a failure.
+        if (in.peek() != std::ifstream::traits_type::eof()) {
+            out << in.rdbuf();
+        }
+    });
+    return isWritten && !in.bad();
 }
 
 /// Copies the mesh, which is a Nemoh mesh already, into the project.

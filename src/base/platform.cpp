@@ -25,6 +25,10 @@ void sorvik::platform::holdStandardStreams() {
     _setmode(_fileno(stdout), _O_BINARY);
 }
 
+bool sorvik::platform::isTerminal() {
+    return _isatty(_fileno(stdout)) != 0;
+}
+
 int sorvik::platform::createNew(const std::string& path) {
     const int file = _open(path.c_str(), _O_CREAT | _O_EXCL | _O_WRONLY, _S_IREAD | _S_IWRITE);
     return file == -1 ? errno : _close(file);
@@ -81,6 +85,10 @@ void sorvik::platform::holdStandardStreams() {
             open("/dev/null", O_RDWR);
         }
     }
+}
+
+bool sorvik::platform::isTerminal() {
+    return isatty(STDOUT_FILENO) == 1;
 }
 
 int sorvik::platform::createNew(const std::string& path) {

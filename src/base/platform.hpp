@@ -21,6 +21,9 @@ void useLargePages(const void* begin, std::size_t bytes);
 /// output pass on its bytes unchanged, with a line feed alone for an end of line.
 void holdStandardStreams();
 
+/// Whether standard output is a terminal.
+bool isTerminal();
+
 /// Creates the empty file `path`, which must not be there. Returns 0, or errno.
 int createNew(const std::string& path);
 

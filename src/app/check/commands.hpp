@@ -1,0 +1,37 @@
+#pragma once
+
+#include "check/finding.hpp"
+
+#include <CLI/CLI.hpp>
+
+#include <functional>
+#include <string>
+
+namespace sorvik {
+
+/// What the command line asks for. The command that was given fills it.
+struct request {
+    std::string command;           ///< such as "hull"
+    std::string subject;           ///< the file or folder
+    std::string jsonFile;          ///< where the JSON report goes, "-" for standard output
+    bool isStrict = false;         ///< whether a warning ends with status 1 too
+    std::function<report()> check; ///< runs it; may throw `cannotCheck`
+};
+
+// Each adds its command with its options to the application; `asked` must outlive that.
+void addHullCommand(CLI::App& app, request& asked);
+
+/// A command in the help, and its subject there.
+struct commandText {
+    std::string name;
+    std::string description;
+    std::string subjectName;
+    std::string subjectDescription;
+};
+
+/// Adds a command with its subject and the options that all commands have. Where it is given, it
+/// sets `asked`, which is then to run `check`.
+CLI::App& addCommand(CLI::App& app, request& asked, const commandText& text,
+                     std::function<report()> check);
+
+} // namespace sorvik

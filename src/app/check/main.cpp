@@ -1,0 +1,86 @@
+#include "app/check/commands.hpp"
+#include "app/check/jsonReport.hpp"
+#include "base/files.hpp"
+#include "base/platform.hpp"
+#include "check/textReport.hpp"
+
+#include <cstdlib>
+#include <iostream>
+#include <new>
+
+namespace sorvik {
+
+CLI::App& addCommand(CLI::App& app, request& asked, const commandText& text,
+                     std::function<report()> check) {
+    CLI::App& command = *app.add_subcommand(text.name, text.description);
+    command.add_option(text.subjectName, asked.subject, text.subjectDescription)->required();
+    command
+        .add_option("--json", asked.jsonFile, "Write all as JSON; - for standard output, no text")
+        ->type_name("FILE");
+    command.add_flag("--strict", asked.isStrict, "End with status 1 for a warning too");
+    command.callback([&asked, name = text.name, check = std::move(check)] {
+        asked.command = name;
+        asked.check = check;
+    });
+    return command;
+}
+
+namespace {
+
+enum status { isFine = 0, hasErrors = 1, cannotRun = 2 };
+
+bool wantsColour() {
+    return platform::isTerminal() && std::getenv("NO_COLOR") == nullptr;
+}
+
+void show(const request& asked, const report& result) {
+    if (asked.jsonFile == "-") {
+        writeJson(std::cout, asked.command, result);
+    } else {
+        writeText(std::cout, asked.command + " " + asked.subject, result, wantsColour());
+        const auto write = [&](std::ostream& out) { writeJson(out, asked.command, result); };
+        if (!asked.jsonFile.empty() && !files::write(asked.jsonFile, write)) {
+            throw cannotCheck("Cannot write " + asked.jsonFile +
+                              ". Give a file in a folder that can be written.");
+        }
+    }
+    std::cout.flush();
+    if (!std::cout) {
+        throw cannotCheck("Cannot write the report to standard output.");
+    }
+}
+
+int run(const request& asked) {
+    try {
+        const report result = asked.check();
+        show(asked, result);
+        const bool isBad = result.count(severity::error) > 0 ||
+                           (asked.isStrict && result.count(severity::warning) > 0);
+        return isBad ? hasErrors : isFine;
+    } catch (const std::bad_alloc&) {
+        std::cerr << "sorvikCheck: There is not enough memory for this check.\n";
+    } catch (const std::exception& error) {
+        std::cerr << "sorvikCheck: " << error.what() << '\n';
+    }
+    return cannotRun;
+}
+
+} // namespace
+} // namespace sorvik
+
+int main(int argc, const char** argv) {
+    sorvik::platform::holdStandardStreams();
+    sorvik::request asked;
+    CLI::App app("Checks meshes, input files, sea states and Nemoh projects before they are paid "
+                 "for.\nEnds with status 0 without an error, 1 with one, 2 if it cannot check.",
+                 "sorvikCheck");
+    app.set_version_flag("--version", "sorvikCheck " SORVIK_VERSION);
+    app.require_subcommand(1);
+    sorvik::addHullCommand(app, asked);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error) == 0 ? sorvik::isFine : sorvik::cannotRun;
+    }
+    return sorvik::run(asked);
+}

@@ -1,0 +1,90 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+/// What a check returns: facts about the input, then findings with their cure. Plain data, so that
+/// text, JSON, pages and other languages show the same.
+namespace sorvik {
+
+/// An error makes results wrong or stops the solver; a warning probably does; a note only informs.
+enum class severity { note, warning, error };
+
+/// "note", "warning" or "error".
+std::string_view nameOf(severity level);
+
+/// Where something was found. Members that do not apply keep their defaults.
+struct location {
+    std::string file = {};
+    int line = 0;         ///< from 1
+    std::string key = {}; ///< of an input file
+    int panel = 0;        ///< from 1, in the order of the mesh as read
+    /// Whether `point` applies.
+    bool hasPoint = false;
+    std::array<double, 3> point = {}; ///< x, y, z [m], of the moved mesh
+
+    /// A panel and its centre.
+    static location ofPanel(std::size_t index, const std::array<double, 3>& centre);
+    /// A key of an input file, and its line where that is known.
+    static location ofKey(const std::string& key, int line = 0);
+};
+
+/// One kind of fault in the input, with all places that have it.
+struct finding {
+    severity level = severity::note;
+    std::string name;    ///< one of `findingKinds`, such as "open-edges"
+    std::string message; ///< what was found
+    std::string cure;    ///< what to do
+    std::size_t count = 1;
+    std::vector<location> where;
+};
+
+/// One property of the input.
+struct fact {
+    using values = std::variant<double, long long, std::string, std::vector<double>>;
+
+    std::string name;  ///< in JSON
+    std::string label; ///< in the text report, which leaves out a fact without one
+    values value;
+    std::string unit; ///< such as "m", or empty
+};
+
+/// The outcome of a check.
+struct report {
+    std::vector<fact> facts;
+    std::vector<finding> findings;
+
+    void addFact(std::string name, std::string label, fact::values value, std::string unit = "");
+
+    /// Adds a finding of the kind `name`, which gives its severity and cure, and counts `where`, or
+    /// 1 without places. A name that is not one of `findingKinds` is a std::logic_error.
+    finding& add(std::string_view name, std::string message, std::vector<location> where = {});
+
+    /// The finding of this kind, or nullptr.
+    const finding* find(std::string_view name) const;
+    /// The number of findings of a severity.
+    std::size_t count(severity level) const;
+};
+
+/// What is known of a kind of finding before any input is read.
+struct findingKind {
+    std::string_view name;
+    severity level;
+    std::string_view cause; ///< a sentence: what is wrong, and what follows from it
+    std::string_view cure;  ///< a sentence: what to do
+};
+
+/// All kinds, in the order of the manual.
+const std::vector<findingKind>& findingKinds();
+
+/// Thrown where a check cannot run at all, such as on a file that is not there.
+struct cannotCheck : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+} // namespace sorvik

@@ -1,0 +1,78 @@
+#include "check/finding.hpp"
+
+namespace sorvik {
+
+const std::vector<findingKind>& findingKinds() {
+    constexpr severity error = severity::error;
+    constexpr severity warning = severity::warning;
+    constexpr severity note = severity::note;
+    static const std::vector<findingKind> kinds = {
+        // ---- hull ----
+        {"unread-file", error, "The reader of the mesh's format gets no panels from the file.",
+         "Give the file the ending of the format that it holds, or export it again."},
+        {"wrong-ending", error, "The file holds another format than its ending says.",
+         "Rename the file: .stl for STL, .gdf for WAMIT GDF, .dat for Nemoh."},
+        {"unread-records", error,
+         "Part of the file is not used, so that the hull is not the one that was drawn.",
+         "Export the whole hull as triangles in an STL file, and convert that."},
+        {"not-finite", error, "Corners are infinite or not a number.",
+         "Export the mesh again from the program that it was drawn with."},
+        {"open-edges", error,
+         "Edges below the level belong to one panel only: the hull has a hole there.",
+         "Close the hole in the meshing program, or merge the corners that should meet."},
+        {"half-hull", warning,
+         "All open edges lie in one vertical plane: the file holds half a hull without saying so.",
+         "Set the symmetry flag of the file, or export the whole hull."},
+        {"turned-edges", error,
+         "Two panels run through an edge in the same direction: the normal of one points inwards.",
+         "Make the orientation of the panels uniform in the meshing program."},
+        {"branched-edges", error,
+         "Edges belong to more than two panels: an inner wall, or a surface that is there twice.",
+         "Delete inner walls and doubled surfaces; the mesh is the outer skin alone."},
+        {"coincident-panels", error, "Panels have the same three corners.",
+         "Delete one panel of each pair."},
+        {"inward-normals", error,
+         "The normals point into the hull: its volume is negative, and all forces have the wrong "
+         "sign.",
+         "Turn the normals of all panels in the meshing program."},
+        {"panel-in-symmetry-plane", error,
+         "Panels lie in the plane of symmetry of a half hull and become an inner wall.",
+         "Delete the panels in the plane of symmetry."},
+        {"panel-without-area", warning,
+         "Panels without area have no normal, which is written as nan.",
+         "Merge coincident corners in the meshing program and delete such panels."},
+        {"tiny-panel", error, "Nemoh refuses wetted panels of less than 1e-7 m2.",
+         "Merge nearby corners, or move the level by a few millimetres."},
+        {"cut-panel-without-area", error, "The cut at the level leaves panels without area.",
+         "Move the level by a few millimetres, or put a line of corners at the level."},
+        {"dropped-panels", warning,
+         "Panels whose wetted part is thinner than 1e-4 m are dropped by the cut.",
+         "Put a line of corners at the level, or move the level by a few millimetres."},
+        {"nodes-near-level", warning,
+         "Corners lie above the level by less than 1e-4 m: slivers or gaps result.",
+         "Move these corners to the level exactly."},
+        {"unequal-volumes", error,
+         "The volumes from the x, y and z components of the normals differ: the wetted surface is "
+         "not closed.",
+         "Repair the open and turned edges below the level."},
+        {"dry", error, "Nothing of the hull lies below the level.",
+         "Check the sign and unit of --origin and --level; the mesh moves by minus the origin."},
+        {"submerged", warning, "The hull lies below the level as a whole.",
+         "Check --origin and --level, unless the body is meant to be submerged."},
+        {"millimetres", error, "The hull is longer than 2000 m: its unit is probably mm.",
+         "Export the mesh in metres."},
+        {"lid", note,
+         "Panels lie in the water plane. They close the hull there and are left out of the "
+         "hydrostatics.",
+         "Keep them as a lid against irregular frequencies; else delete them."},
+        {"long-edges", warning,
+         "Edges are long against the shortest wave: above an eighth results are inaccurate, above "
+         "a third meaningless.",
+         "Refine the mesh, or end the range of frequencies earlier."},
+        {"unusable-option", error, "The value of an option cannot be used.",
+         "Give a value as the help of the command says."},
+    };
+    return kinds;
+}
+
+} // namespace sorvik

@@ -20,7 +20,7 @@ const std::vector<findingKind>& findingKinds() {
         {"open-edges", error,
          "Edges below the level belong to one panel only: the hull has a hole there.",
          "Close the hole in the meshing program, or merge the corners that should meet."},
-        {"half-hull", warning,
+        {"half-hull", error,
          "All open edges lie in one vertical plane: the file holds half a hull without saying so.",
          "Set the symmetry flag of the file, or export the whole hull."},
         {"turned-edges", error,
@@ -59,7 +59,7 @@ const std::vector<findingKind>& findingKinds() {
          "Check the sign and unit of --origin and --level; the mesh moves by minus the origin."},
         {"submerged", warning, "The hull lies below the level as a whole.",
          "Check --origin and --level, unless the body is meant to be submerged."},
-        {"millimetres", error, "The hull is longer than 2000 m: its unit is probably mm.",
+        {"millimetres", error, "The hull is longer than 1000 m: its unit is probably mm.",
          "Export the mesh in metres."},
         {"lid", note,
          "Panels lie in the water plane. They close the hull there and are left out of the "
@@ -69,8 +69,9 @@ const std::vector<findingKind>& findingKinds() {
          "Edges are long against the shortest wave: above an eighth results are inaccurate, above "
          "a third meaningless.",
          "Refine the mesh, or end the range of frequencies earlier."},
-        {"unusable-option", error, "The value of an option cannot be used.",
-         "Give a value as the help of the command says."},
+        {"mass-differs", warning,
+         "The mass that was given is not the displaced one: the hull does not float at this level.",
+         "Correct --mass, --level or --origin."},
     };
     return kinds;
 }

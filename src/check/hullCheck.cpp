@@ -1,27 +1,172 @@
 #include "check/hullCheck.hpp"
 
 #include "base/files.hpp"
+#include "check/hullFindings.hpp"
 #include "check/quietly.hpp"
-#include "mesh/bodyMesh.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <filesystem>
 
 namespace sorvik {
+namespace {
 
-report checkHull(const std::string& file, const hullOptions& options) {
-    if (!files::canOpen(file)) {
-        throw cannotCheck("Cannot read " + file + ". Check the name of the mesh.");
+void requirePositive(double value, const std::string& option) {
+    if (!(value > 0) || !std::isfinite(value)) {
+        throw cannotCheck(option + " is " + std::to_string(value) +
+                          ". Give a number greater than 0.");
     }
-    report result;
-    bodyMesh mesh;
+}
+
+void requireFinite(const point3& values, const std::string& option) {
+    for (const double value : values) {
+        if (!std::isfinite(value)) {
+            throw cannotCheck(option + " is not finite. Give numbers in m.");
+        }
+    }
+}
+
+void requireUsable(const std::string& file, const hullOptions& options) {
+    if (!std::filesystem::is_regular_file(file) || !files::canOpen(file)) {
+        throw cannotCheck("Cannot read the mesh " + file +
+                          ". Check the name; it is a file that you may read.");
+    }
+    requireFinite(options.origin, "--origin");
+    requireFinite(options.cog, "--cog");
+    requireFinite({options.level, options.depth, 0}, "--level or --depth");
+    requirePositive(options.density, "--density");
+    requirePositive(options.gravity, "--gravity");
+    requirePositive(options.mass.value_or(1), "--mass");
+    requirePositive(options.w1.value_or(1), "--w1");
+}
+
+/// Takes out the panel that the reader makes of the line that ends a Nemoh mesh, and its image: all
+/// their corners lie at the mesh's zero.
+void removeNemohEnd(bodyMesh& mesh, const point3& origin, double level) {
+    const auto isZero = [&](const v3<float>& p) {
+        return p.x == -static_cast<float>(origin[0]) && p.y == -static_cast<float>(origin[1]) &&
+               p.z == -static_cast<float>(origin[2]);
+    };
+    const auto isEnd = [&](const triangle& panel) {
+        return isZero(panel.vertexA) && isZero(panel.vertexB) && isZero(panel.vertexC);
+    };
+    auto& faces = mesh.faces;
+    faces.erase(std::remove_if(faces.begin(), faces.end(), isEnd), faces.end());
+    mesh.nFaces = static_cast<int>(faces.size());
+    quietly([&] { mesh.updateWetSurface(level); });
+}
+
+void setBox(const std::vector<triangle>& panels, examinedHull& hull) {
+    hull.low.fill(HUGE_VAL);
+    hull.high.fill(-HUGE_VAL);
+    for (const triangle& panel : panels) {
+        const corners3 t = cornersOf(panel);
+        for (std::size_t corner = 0; corner < 3 && isFinite(t); ++corner) {
+            for (std::size_t i = 0; i < 3; ++i) {
+                hull.low[i] = std::min(hull.low[i], t[corner][i]);
+                hull.high[i] = std::max(hull.high[i], t[corner][i]);
+            }
+        }
+    }
+}
+
+std::vector<double> listOf(const point3& p) {
+    return {p.begin(), p.end()};
+}
+
+void addMeshFacts(const examinedHull& hull, report& result) {
+    const auto count = [](std::size_t number) { return static_cast<long long>(number); };
+    result.addFact("format", "Format", hull.file.format);
+    result.addFact("ending", "", hull.file.ending);
+    result.addFact("announced", "", hull.file.announced);
+    result.addFact("read", "", hull.file.read);
+    result.addFact("panels", "Panels", count(hull.mesh.faces.size()));
+    result.addFact("wettedPanels", "Panels of the cut", count(hull.mesh.wetFaces.size()));
+    result.addFact("nodes", "Nodes", count(hull.topology.nodes));
+    result.addFact("box.min", "Box from", listOf(hull.low), "m");
+    result.addFact("box.max", "to", listOf(hull.high), "m");
+    result.addFact("area", "Area", hull.mesh.surfaceArea(), "m2");
+}
+
+void addHydrostaticFacts(const hydrostatics& h, report& result) {
+    result.addFact("wettedArea", "Wetted area", h.wettedArea, "m2");
+    result.addFact("volume.x", "", h.volume[0], "m3");
+    result.addFact("volume.y", "", h.volume[1], "m3");
+    result.addFact("volume.z", "Volume", h.volume[2], "m3");
+    result.addFact("displacement", "Displacement", h.displacement, "kg");
+    result.addFact("draught", "Draught", h.draught, "m");
+    result.addFact("buoyancy", "Centre of buoyancy", listOf(h.buoyancy), "m");
+    result.addFact("waterplane.area", "Waterplane area", h.waterplane, "m2");
+    result.addFact("waterplane.x", "", h.waterplaneX, "m");
+    result.addFact("waterplane.y", "", h.waterplaneY, "m");
+    result.addFact("waterplane.Ixx", "", h.Ixx, "m4");
+    result.addFact("waterplane.Iyy", "", h.Iyy, "m4");
+    result.addFact("waterplane.Ixy", "", h.Ixy, "m4");
+    result.addFact("K33", "Stiffness in heave", h.stiffness[14], "N/m");
+    result.addFact("K44", "in roll", h.stiffness[21], "N m");
+    result.addFact("K55", "in pitch", h.stiffness[28], "N m");
+    result.addFact("stiffness", "", std::vector<double>(h.stiffness.begin(), h.stiffness.end()));
+    result.addFact("GMt", "GM, transverse", h.GMt, "m");
+    result.addFact("GMl", "GM, longitudinal", h.GMl, "m");
+}
+
+void addSizeFacts(const panelSizes& sizes, const hullOptions& options, report& result) {
+    result.addFact("longestEdge", "Longest wetted edge", sizes.longestEdge, "m");
+    result.addFact("smallestArea", "Smallest wetted panel", sizes.smallestArea, "m2");
+    result.addFact("worstAspect", "Worst aspect ratio", sizes.worstAspect);
+    if (options.w1) {
+        const double length = waveLength(*options.w1, options.gravity, options.depth);
+        result.addFact("panelsPerWave", "Panels per wave at --w1", length / sizes.longestEdge);
+    }
+}
+
+/// Reads the mesh as `sorvikPre` does. Returns why there are no panels, or "".
+std::string readHull(const std::string& file, const hullOptions& options, bodyMesh& mesh) {
+    if (file.size() < 4) {
+        return "The name " + file + " has no ending of a mesh.";
+    }
     const quietOutcome outcome = quietly([&] {
-        const std::vector<double> origin(options.origin.begin(), options.origin.end());
-        mesh = bodyMesh(file, origin, {0, 0, 0}, options.level);
+        mesh = bodyMesh(file, listOf(options.origin), {0, 0, 0}, options.level);
     });
-    if (outcome.hasEnded || mesh.faces.empty()) {
-        result.add("unread-file", outcome.lastLine());
-        return result;
+    return outcome.hasEnded     ? outcome.message()
+           : mesh.faces.empty() ? "The file gives no panels."
+                                : "";
+}
+
+} // namespace
+
+hullReport checkHull(const std::string& file, const hullOptions& options) {
+    requireUsable(file, options);
+    hullReport checked;
+    report& result = checked.result;
+    bodyMesh mesh;
+    const std::string failure = readHull(file, options, mesh);
+    checked.hasPanels = failure.empty();
+    const meshFileFacts facts =
+        inspectMeshFile(file, static_cast<long long>(mesh.faces.size()), result);
+    if (!checked.hasPanels) {
+        result.addFact("format", "Format", facts.format);
+        if (result.findings.empty()) {
+            result.add("unread-file", failure);
+        }
+        return checked;
     }
-    result.addFact("panels", "Panels", static_cast<long long>(mesh.faces.size()));
-    return result;
+    if (facts.format == "Nemoh") {
+        removeNemohEnd(mesh, options.origin, options.level);
+    }
+    checked.values = computeHydrostatics(mesh.faces, options);
+    checked.wettedPanels = mesh.wetFaces.size();
+    const hullTopology topology = topologyBelow(mesh.faces, options.level);
+    examinedHull hull = {mesh, facts, options, checked.values, topology, {}, {}};
+    setBox(mesh.faces, hull);
+    const panelSizes sizes = sizesOf(mesh.wetFaces);
+    addMeshFacts(hull, result);
+    addHydrostaticFacts(checked.values, result);
+    addSizeFacts(sizes, options, result);
+    addEdgeFindings(hull, result);
+    addPanelFindings(hull, result);
+    addShapeFindings(hull, sizes, result);
+    return checked;
 }
 
 } // namespace sorvik

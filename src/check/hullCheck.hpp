@@ -1,6 +1,7 @@
 #pragma once
 
 #include "check/finding.hpp"
+#include "check/hydrostatics.hpp"
 
 #include <array>
 #include <optional>
@@ -8,21 +9,27 @@
 
 namespace sorvik {
 
-/// What `checkHull` goes by. Lengths in m, z up.
-struct hullOptions {
+/// What `checkHull` goes by. Lengths in m, z up; level and centre of gravity are those of the moved
+/// mesh.
+struct hullOptions : hydrostaticOptions {
     /// The point of the mesh that becomes (0, 0, 0), as for `-meshConvert`.
-    std::array<double, 3> origin = {};
-    double level = 0; ///< height of the water plane in the moved mesh
-    /// Centre of gravity in the moved mesh.
-    std::array<double, 3> cog = {};
-    std::optional<double> mass; ///< kg; the displaced mass without it
-    double density = 1025;      ///< of the water, kg/m³
-    double gravity = 9.81;      ///< m/s²
-    std::optional<double> w1;   ///< highest wave frequency, rad/s
+    point3 origin = {};
+    std::optional<double> w1; ///< highest wave frequency [rad/s]
+    double depth = 0;         ///< of the water, 0 for deep water
+};
+
+/// What a check of a hull gives.
+struct hullReport {
+    report result;
+    /// Whether there are panels, to which the rest applies.
+    bool hasPanels = false;
+    hydrostatics values;
+    std::size_t wettedPanels = 0; ///< as `sorvikPre` cuts the mesh
 };
 
 /// Checks a mesh file: what was read of it, its shape, its hydrostatics at the level, and its
-/// fitness for Nemoh. Throws `cannotCheck` where the file cannot be opened.
-report checkHull(const std::string& file, const hullOptions& options);
+/// fitness for Nemoh. Throws `cannotCheck` where the file cannot be opened or an option cannot be
+/// used.
+hullReport checkHull(const std::string& file, const hullOptions& options);
 
 } // namespace sorvik

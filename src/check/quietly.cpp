@@ -1,17 +1,21 @@
 #include "check/quietly.hpp"
 
+#include <sstream>
+
 namespace sorvik {
 
-std::string quietOutcome::lastLine() const {
-    const std::size_t last = text.find_last_not_of(" \r\n");
-    if (last == text.npos) {
-        return "";
-    }
-    const std::size_t before = text.find_last_of("\r\n", last);
-    const std::size_t first = before == text.npos ? 0 : before + 1;
-    const std::string line = text.substr(first, last + 1 - first);
+std::string quietOutcome::message() const {
     const std::string mark = "FATAL ERROR: ";
-    return line.compare(0, mark.size(), mark) == 0 ? line.substr(mark.size()) : line;
+    std::istringstream lines(text);
+    std::string last;
+    for (std::string line; std::getline(lines, line);) {
+        const std::size_t found = line.find(mark);
+        if (found != line.npos) {
+            return line.substr(found + mark.size());
+        }
+        last = line.empty() ? last : line;
+    }
+    return last;
 }
 
 } // namespace sorvik

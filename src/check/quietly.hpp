@@ -15,8 +15,8 @@ struct quietOutcome {
     int status = 0;        ///< that the process was to end with
     std::string text;      ///< what it printed on standard output
 
-    /// The last line of the text that is not blank, without "FATAL ERROR: ".
-    std::string lastLine() const;
+    /// The fatal error that the text shows, without "FATAL ERROR: ", or else its last line.
+    std::string message() const;
 };
 
 /// Takes what is printed on standard output, and the ends of the process, for its own lifetime.

@@ -3,6 +3,7 @@
 #include "base/numberText.hpp"
 
 #include <algorithm>
+#include <cmath>
 #include <ostream>
 
 namespace sorvik {
@@ -11,10 +12,16 @@ namespace {
 constexpr std::size_t lineWidth = 80;
 constexpr std::size_t placesShown = 3;
 
+/// Numbers in parentheses. Those far below the largest are rounding, and shown as 0.
 std::string tuple(const double* values, std::size_t count) {
+    double largest = 0;
+    for (std::size_t i = 0; i < count; ++i) {
+        largest = std::max(largest, std::abs(values[i]));
+    }
     std::string text = "(";
     for (std::size_t i = 0; i < count; ++i) {
-        text += (i > 0 ? ", " : "") + numberText(values[i]);
+        const bool isNoise = std::abs(values[i]) < 1e-9 * largest;
+        text += (i > 0 ? ", " : "") + numberText(isNoise ? 0 : values[i]);
     }
     return text + ")";
 }

@@ -1,5 +1,7 @@
 #include "mesh/bodyMesh.hpp"
 
+#include "mesh/waterline.hpp"
+
 #include <iostream>
 
 // The panels' corners are compared with the cut height in double; the new corners on cut edges are
@@ -7,9 +9,7 @@
 
 namespace {
 
-/// Depth below the cut [m] that the submerged corners of a cut panel must exceed: thinner slivers
-/// would give panels without a usable normal or area.
-constexpr double sliverDepth = 0.0001;
+using sorvik::isSliver;
 
 float depthBelow(double cut, const v3<float>& corner) {
     return static_cast<float>(cut - static_cast<double>(corner.z));
@@ -39,10 +39,6 @@ struct cornersFrom {
         return i % 3 == 0 ? p.vertexA : i % 3 == 1 ? p.vertexB : p.vertexC;
     }
 };
-
-bool isSliver(float depth) {
-    return !(static_cast<double>(depth) > sliverDepth);
-}
 
 /// Appends the wet part of a panel with one submerged corner; false where it is dropped.
 bool appendTip(std::vector<triangle>& target, const triangle& panel, int submerged, double cut) {

@@ -1,0 +1,124 @@
+#include "check/meshFile.hpp"
+
+#include "base/files.hpp"
+#include "base/littleEndian.hpp"
+#include "check/meshFileScans.hpp"
+#include "mesh/stlFormat.hpp"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+namespace sorvik {
+namespace {
+
+constexpr std::size_t stlHead = 84;
+constexpr std::size_t stlFacet = 50;
+
+/// The beginning of the file: more than a header of any format needs.
+std::string headOf(const std::string& file) {
+    std::string head(4096, '\0');
+    std::ifstream in = files::open(file);
+    in.read(head.data(), static_cast<std::streamsize>(head.size()));
+    head.resize(static_cast<std::size_t>(in.gcount()));
+    return head;
+}
+
+/// Whether the next line of `in` begins with `count` numbers.
+bool hasNumbers(std::istream& in, int count) {
+    std::string line;
+    std::getline(in, line);
+    std::istringstream numbers(line);
+    double value = 0;
+    while (count > 0 && numbers >> value) {
+        --count;
+    }
+    return count == 0;
+}
+
+bool looksLikeGdf(const std::string& head) {
+    std::istringstream in(head);
+    std::string title;
+    std::getline(in, title);
+    return hasNumbers(in, 2) && hasNumbers(in, 2) && hasNumbers(in, 1);
+}
+
+bool looksLikeNemoh(const std::string& head) {
+    std::istringstream in(head);
+    int marker = 0;
+    int symmetry = 0;
+    int number = 0;
+    return in >> marker >> symmetry >> number && marker == 2 && number == 1 &&
+           (symmetry == 0 || symmetry == 1);
+}
+
+long long facetsAnnounced(const std::string& head) {
+    return head.size() < stlHead ? 0 : littleEndian::load<std::uint32_t>(head.data() + 80);
+}
+
+std::string formatOf(const std::string& head, std::uintmax_t size) {
+    std::istringstream in(head);
+    if (!stl::isBinary(in)) {
+        return "STL, ASCII";
+    }
+    if (head.size() >= stlHead &&
+        size == stlHead + stlFacet * static_cast<std::uintmax_t>(facetsAnnounced(head))) {
+        return "STL, binary";
+    }
+    return looksLikeNemoh(head) ? "Nemoh" : looksLikeGdf(head) ? "GDF" : "unknown";
+}
+
+/// The format that an ending stands for, as `formatOf` names it up to a comma.
+std::string formatOfEnding(std::string ending) {
+    std::transform(ending.begin(), ending.end(), ending.begin(),
+                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
+    return ending == ".stl"                       ? "STL"
+           : ending == ".gdf"                     ? "GDF"
+           : ending == ".dat" || ending == ".nem" ? "Nemoh"
+                                                  : "";
+}
+
+void inspectBinaryStl(const std::string& head, std::uintmax_t size, meshFileFacts& facts,
+                      report& result) {
+    facts.announced = facetsAnnounced(head);
+    const auto held = static_cast<long long>(size < stlHead ? 0 : (size - stlHead) / stlFacet);
+    facts.read = std::min(facts.announced, held);
+    if (facts.announced != held) {
+        result.add("unread-records", "The binary STL file announces " +
+                                         std::to_string(facts.announced) +
+                                         " facets, and its length of " + std::to_string(size) +
+                                         " bytes holds " + std::to_string(held) + ".");
+    }
+}
+
+} // namespace
+
+meshFileFacts inspectMeshFile(const std::string& file, long long panels, report& result) {
+    std::error_code ignored;
+    const std::uintmax_t size = std::filesystem::file_size(file, ignored);
+    const std::string head = headOf(file);
+    meshFileFacts facts;
+    facts.ending = file.size() < 4 ? file : file.substr(file.size() - 4);
+    facts.format = formatOf(head, size);
+    const std::string expected = formatOfEnding(facts.ending);
+    if (!expected.empty() && facts.format != "unknown" &&
+        facts.format.compare(0, expected.size(), expected) != 0) {
+        result.add("wrong-ending", "The ending " + facts.ending + " stands for " + expected +
+                                       ", and the content is " + facts.format + ".");
+        return facts;
+    }
+    std::ifstream in = files::open(file);
+    if (facts.format == "STL, ASCII") {
+        scanAsciiStl(in, panels, facts, result);
+    } else if (expected == "STL") {
+        inspectBinaryStl(head, size, facts, result);
+    } else if (expected == "GDF") {
+        scanGdf(in, facts, result);
+    } else if (expected == "Nemoh") {
+        scanNemohMesh(in, facts, result);
+    }
+    return facts;
+}
+
+} // namespace sorvik

@@ -97,7 +97,7 @@ public:
 private:
     using panelNodes = std::array<int, 3>;
 
-    /// The nodes of a panel; false where two corners are one.
+    /// The nodes of a panel; false where two corners are one, or one is not finite.
     bool nodesOf(std::size_t panel, panelNodes& nodes) const {
         std::copy_n(matcher_.corners().begin() + static_cast<std::ptrdiff_t>(3 * panel), 3,
                     nodes.begin());
@@ -110,8 +110,8 @@ private:
     }
     // Corners of one panel are never merged with each other by the matcher.
     bool isSame(int a, int b) const {
-        return a == b ||
-               static_cast<double>(length(placeOf(a) - placeOf(b))) < nodeMatcher::tolerance;
+        const auto distance = static_cast<double>(length(placeOf(a) - placeOf(b)));
+        return a == b || !(distance >= nodeMatcher::tolerance);
     }
     bool isDeep(int node) const { return static_cast<double>(placeOf(node).z) < deepest_; }
 

@@ -40,20 +40,28 @@ void requireUsable(const std::string& file, const hullOptions& options) {
     requirePositive(options.w1.value_or(1), "--w1");
 }
 
-/// Takes out the panel that the reader makes of the line that ends a Nemoh mesh, and its image: all
+/// Takes out the panel that the reader makes of the line that ends a Nemoh mesh, and its image. All
 /// their corners lie at the mesh's zero.
-void removeNemohEnd(bodyMesh& mesh, const point3& origin, double level) {
+void removeNemohEnd(bodyMesh& mesh, bool isMirrored, const hullOptions& options) {
+    const v3<float> zero = {-static_cast<float>(options.origin[0]),
+                            -static_cast<float>(options.origin[1]),
+                            -static_cast<float>(options.origin[2])};
     const auto isZero = [&](const v3<float>& p) {
-        return p.x == -static_cast<float>(origin[0]) && p.y == -static_cast<float>(origin[1]) &&
-               p.z == -static_cast<float>(origin[2]);
-    };
-    const auto isEnd = [&](const triangle& panel) {
-        return isZero(panel.vertexA) && isZero(panel.vertexB) && isZero(panel.vertexC);
+        return p.x == zero.x && p.y == zero.y && p.z == zero.z;
     };
     auto& faces = mesh.faces;
-    faces.erase(std::remove_if(faces.begin(), faces.end(), isEnd), faces.end());
+    const auto removeAt = [&](std::size_t i) {
+        if (isZero(faces[i].vertexA) && isZero(faces[i].vertexB) && isZero(faces[i].vertexC)) {
+            faces.erase(faces.begin() + static_cast<std::ptrdiff_t>(i));
+        }
+    };
+    const std::size_t half = faces.size() / 2;
+    removeAt(faces.size() - 1);
+    if (isMirrored && half > 0) {
+        removeAt(half - 1);
+    }
     mesh.nFaces = static_cast<int>(faces.size());
-    quietly([&] { mesh.updateWetSurface(level); });
+    quietly([&] { mesh.updateWetSurface(options.level); });
 }
 
 void setBox(const std::vector<triangle>& panels, examinedHull& hull) {
@@ -152,7 +160,7 @@ hullReport checkHull(const std::string& file, const hullOptions& options) {
         return checked;
     }
     if (facts.format == "Nemoh") {
-        removeNemohEnd(mesh, options.origin, options.level);
+        removeNemohEnd(mesh, facts.isMirroredY, options);
     }
     checked.values = computeHydrostatics(mesh.faces, options);
     checked.wettedPanels = mesh.wetFaces.size();

@@ -259,6 +259,14 @@ TEST_F(hullCheck, comparesWithOptions) {
     EXPECT_THROW(check(box()), cannotCheck);
 }
 
+TEST_F(hullCheck, leavesOutTheLineThatEndsANemohMesh) {
+    const std::string nodes = "2 1\n1 0 1 -1\n2 1 1 -1\n3 1 2 -1\n4 0 0 0\n0 0 0 0\n1 2 3 1\n";
+    EXPECT_THAT(namesOf(checkText("hull.dat", nodes + "0 0 0 0\n")),
+                testing::Not(testing::Contains("panel-without-area")));
+    const report two = checkText("twice.dat", nodes + "4 4 4 4\n0 0 0 0\n").result;
+    EXPECT_EQ(two.find("panel-without-area")->count, 2U);
+}
+
 TEST_F(hullCheck, findsPanelsInThePlaneOfSymmetry) {
     const std::string text = "half\n1 9.81\n0 1\n2\n0 0 -1 1 0 -1 1 0 -2 0 0 -1\n"
                              "0 0 0 0 0 0 0 0 0 0 0 0\n";

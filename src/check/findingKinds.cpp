@@ -40,7 +40,9 @@ const std::vector<findingKind>& findingKinds() {
          "Delete the panels in the plane of symmetry."},
         {"panel-without-area", warning,
          "Panels without area have no normal, which is written as nan.",
-         "Merge coincident corners in the meshing program and delete such panels."},
+         "Delete such panels in the meshing program. In a mesh converted from a Nemoh mesh, cut "
+         "with "
+         "-wet just below the level."},
         {"tiny-panel", error, "Nemoh refuses wetted panels of less than 1e-7 m2.",
          "Merge nearby corners, or move the level by a few millimetres."},
         {"cut-panel-without-area", error, "The cut at the level leaves panels without area.",

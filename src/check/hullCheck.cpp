@@ -141,6 +141,30 @@ std::string readHull(const std::string& file, const hullOptions& options, bodyMe
                                 : "";
 }
 
+/// Adds facts and findings on a mesh, and sets the hydrostatics.
+void examine(bodyMesh& mesh, const meshFileFacts& facts, const hullOptions& options,
+             hullReport& checked) {
+    report& result = checked.result;
+    if (facts.format == "Nemoh") {
+        removeNemohEnd(mesh, facts.isMirroredY, options);
+    }
+    checked.values = computeHydrostatics(mesh.faces, options);
+    checked.wettedPanels = mesh.wetFaces.size();
+    const hullTopology topology = topologyBelow(mesh.faces, options.level);
+    examinedHull hull = {mesh, facts, options, checked.values, topology, {}, {}};
+    setBox(mesh.faces, hull);
+    const panelSizes sizes = sizesOf(mesh.wetFaces);
+    addMeshFacts(hull, result);
+    addHydrostaticFacts(checked.values, result);
+    addSizeFacts(sizes, options, result);
+    if (options.onlyRecords) {
+        return;
+    }
+    addEdgeFindings(hull, result);
+    addPanelFindings(hull, result);
+    addShapeFindings(hull, sizes, result);
+}
+
 } // namespace
 
 hullReport checkHull(const std::string& file, const hullOptions& options) {
@@ -159,21 +183,7 @@ hullReport checkHull(const std::string& file, const hullOptions& options) {
         }
         return checked;
     }
-    if (facts.format == "Nemoh") {
-        removeNemohEnd(mesh, facts.isMirroredY, options);
-    }
-    checked.values = computeHydrostatics(mesh.faces, options);
-    checked.wettedPanels = mesh.wetFaces.size();
-    const hullTopology topology = topologyBelow(mesh.faces, options.level);
-    examinedHull hull = {mesh, facts, options, checked.values, topology, {}, {}};
-    setBox(mesh.faces, hull);
-    const panelSizes sizes = sizesOf(mesh.wetFaces);
-    addMeshFacts(hull, result);
-    addHydrostaticFacts(checked.values, result);
-    addSizeFacts(sizes, options, result);
-    addEdgeFindings(hull, result);
-    addPanelFindings(hull, result);
-    addShapeFindings(hull, sizes, result);
+    examine(mesh, facts, options, checked);
     return checked;
 }
 

@@ -16,6 +16,7 @@ struct hullOptions : hydrostaticOptions {
     point3 origin = {};
     std::optional<double> w1; ///< highest wave frequency [rad/s]
     double depth = 0;         ///< of the water, 0 for deep water
+    bool onlyRecords = false; ///< check what is read of the file, and not the hull
 };
 
 /// What a check of a hull gives.

@@ -163,7 +163,9 @@ void sortPanel(const corners3& t, std::size_t index, double level, panelPlaces& 
     if (area < noArea) {
         found.withoutArea.push_back(place);
         found.isWithoutAreaWet = found.isWithoutAreaWet || isWet;
-    } else if (isWet && area < smallestForNemoh) {
+        return;
+    }
+    if (isWet && area < smallestForNemoh) {
         found.tiny.push_back(place);
     }
     if (isLid(t, level)) {

@@ -55,6 +55,8 @@ void addBodyOptions(CLI::App& command, hullRequest& wanted) {
     command.add_option("--cog", options.cog, "Centre of gravity in the moved mesh [m]")
         ->type_name("X Y Z");
     command.add_option("--mass", options.mass, "Mass [kg]; default: displaced")->type_name("KG");
+    command.add_flag("--records", options.onlyRecords,
+                     "Check only what is read of the file, not the hull");
     CLI::Option* folder =
         command
             .add_option("--hydrostatics", wanted.folder,

@@ -1,0 +1,27 @@
+#include "check/finding.hpp"
+#include "support/files.hpp"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+// Update the table of docs/check.md from what this test shows.
+TEST(manual, describesEveryFinding) {
+    std::string table = "| Finding | Severity | Cause | Cure |\n|---|---|---|---|\n";
+    for (const sorvik::findingKind& kind : sorvik::findingKinds()) {
+        for (const std::string_view part :
+             {std::string_view("| `"), kind.name, std::string_view("` | "), nameOf(kind.level),
+              std::string_view(" | "), kind.cause, std::string_view(" | "), kind.cure}) {
+            table += part;
+        }
+        table += " |\n";
+    }
+    const std::string manual = readFile(SORVIK_TEST_DATA "/../../docs/check.md");
+    const std::string heading = "## ALL FINDINGS\n\n";
+    const std::size_t begin = manual.find("| Finding |", manual.find(heading));
+    ASSERT_NE(begin, manual.npos);
+    EXPECT_EQ(table, manual.substr(begin));
+}
+
+} // namespace

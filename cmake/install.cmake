@@ -5,6 +5,9 @@ set(SORVIK_ZSH_COMPLETIONS ${CMAKE_INSTALL_DATADIR}/zsh/site-functions
     CACHE STRING "Where zsh looks for completions")
 
 install(TARGETS sorvikPre)
+if(TARGET sorvikCheck)
+  install(TARGETS sorvikCheck)
+endif()
 install(TARGETS sorvik EXPORT sorvik INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/sorvik)
 foreach(header IN LISTS SORVIK_PUBLIC_HEADERS)
   get_filename_component(folder ${header} DIRECTORY)
@@ -35,7 +38,11 @@ foreach(command IN ITEMS sorvikPre sorvik-run)
   install(FILES ${completions}/${command}.fish
     DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
 endforeach()
-install(FILES ${completions}/sorvik-plot.bash RENAME sorvik-plot
-  DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
-install(FILES ${completions}/sorvik-plot.fish DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
-install(FILES ${completions}/_sorvikPre ${completions}/_sorvik-plot DESTINATION ${SORVIK_ZSH_COMPLETIONS})
+foreach(command IN ITEMS sorvik-plot sorvikCheck)
+  install(FILES ${completions}/${command}.bash RENAME ${command}
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
+  install(FILES ${completions}/${command}.fish
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
+endforeach()
+install(FILES ${completions}/_sorvikPre ${completions}/_sorvik-plot ${completions}/_sorvikCheck
+  DESTINATION ${SORVIK_ZSH_COMPLETIONS})

@@ -23,5 +23,6 @@ set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 "Converts hull surface meshes between STL, WAMIT GDF and Nemoh and cuts them
 at the waterline, sets up projects for the boundary-element solver Nemoh,
 writes the surface elevation of regular, JONSWAP and listed waves, and turns
-input files into JSON. The library and its headers come with it.")
+input files into JSON. sorvikCheck checks all of these before a long
+computation. The library and its headers come with it.")
 include(CPack)

@@ -18,9 +18,9 @@ local function Code(code)
     return bold(escape(code.text))
 end
 
---- Long names may break in narrow columns, after a point, a slash, a colon or an underscore.
+--- Long names may break in narrow columns, after a point, a slash, a colon, an underscore or a hyphen.
 local function narrowCode(code)
-    return bold((escape(code.text):gsub("([%w_:][./_:])(%w)", "%1\\:%2")))
+    return bold((escape(code.text):gsub("([%w_:][./_:])(%w)", "%1\\:%2"):gsub("(%w\\%-)(%w)", "%1\\:%2")))
 end
 
 local function CodeBlock(block)

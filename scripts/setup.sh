@@ -5,7 +5,7 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-build_packages=(g++ cmake ninja-build)
+build_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev)
 test_packages=(libgtest-dev libgmock-dev gnuplot-nox libxml2-utils python3 parallel procps)
 check_packages=(clang clang-format clang-tidy libclang-rt-dev libbenchmark-dev shellcheck git doxygen
     pandoc mandoc groff-base busybox zsh fish python3-yaml)
@@ -56,13 +56,13 @@ folder_of() {
     esac
 }
 
-# program_of PRESET: sets `program` to the command that runs the program of that build.
+# program_of PRESET [NAME]: sets `program` to the command that runs sorvikPre, or NAME, of that build.
 program_of() {
-    local folder file
+    local folder file name=${2:-sorvikPre}
     folder=$PWD/$(folder_of "$1")
     IFS=';' read -ra program < <(sed -n 's/^CMAKE_CROSSCOMPILING_EMULATOR:[^=]*=//p' \
         "$folder/CMakeCache.txt") || true
-    file=$folder/sorvikPre
+    file=$folder/$name
     [ -e "$file" ] || file=$file.exe
     program+=("$file")
 }

@@ -8,7 +8,7 @@ namespace {
 
 // Update the table of docs/check.md from what this test shows.
 TEST(manual, describesEveryFinding) {
-    std::string table = "| Finding | Severity | Cause | Cure |\n|---|---|---|---|\n";
+    std::string table;
     for (const sorvik::findingKind& kind : sorvik::findingKinds()) {
         for (const std::string_view part :
              {std::string_view("| `"), kind.name, std::string_view("` | "), nameOf(kind.level),
@@ -18,10 +18,10 @@ TEST(manual, describesEveryFinding) {
         table += " |\n";
     }
     const std::string manual = readFile(SORVIK_TEST_DATA "/../../docs/check.md");
-    const std::string heading = "## ALL FINDINGS\n\n";
-    const std::size_t begin = manual.find("| Finding |", manual.find(heading));
+    const std::string heading = "## ALL FINDINGS";
+    const std::size_t begin = manual.find("|\n| `", manual.find(heading));
     ASSERT_NE(begin, manual.npos);
-    EXPECT_EQ(table, manual.substr(begin));
+    EXPECT_EQ("|\n" + table, manual.substr(begin));
 }
 
 } // namespace

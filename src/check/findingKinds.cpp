@@ -74,6 +74,45 @@ const std::vector<findingKind>& findingKinds() {
         {"mass-differs", warning,
          "The mass that was given is not the displaced one: the hull does not float at this level.",
          "Correct --mass, --level or --origin."},
+        // ---- sea ----
+        {"no-sea", error, "The wave elevation task ends with this fatal error.",
+         "Correct the key or file that the message names."},
+        {"still-water", warning, "The input gives no waves: all elevations are zero.",
+         "Give environment.wave.type and an amplitude, and look for misspelt keys by sorvikCheck "
+         "input."},
+        {"lost-trains", error,
+         "A word between the blocks ends the reading of a wave file; the blocks after it are lost.",
+         "Remove the text, so that the file holds numbers only."},
+        {"few-components", warning,
+         "Fewer than ten components hold 90 % of the energy: the sea is almost regular.",
+         "Give more components, closer to the peak of the spectrum."},
+        {"unresolved-peak", error,
+         "The frequencies are too far apart for the peak of the spectrum: period and groups of the "
+         "sea are wrong.",
+         "Give f0 = fp/2, f1 = 5 fp and more components."},
+        {"cut-off-energy", warning,
+         "More than 2 % of the spectrum's energy lies outside f0 to f1 and goes to the waves "
+         "between them.",
+         "Give f0 = fp/2 and f1 = 5 fp."},
+        {"height-differs", warning,
+         "The components add up to another significant height than the spectrum: their amplitudes "
+         "do not depend on the spacing of the frequencies.",
+         "Give Hs = height sqrt(spacing), with the spacing in rad/s."},
+        {"steep", warning, "The waves are steeper than waves that break.",
+         "Check height and period, and their units."},
+        {"repeats", warning,
+         "The sea repeats itself within the run: the later part brings nothing new.",
+         "Give more components, or a shorter run."},
+        {"coarse-step", warning,
+         "Fewer than four instants fall on a period of the shorter waves: crests are missed, and "
+         "statistics of the table are wrong.",
+         "Give a smaller simulation.print.dt."},
+        {"bad-table", error, "The table of elevations cannot be read.",
+         "Give a waveElevation.dat as sorvikPre writes it, with probes."},
+        {"table-differs", warning,
+         "The heights in the table are not those of the components: the table belongs to another "
+         "input.",
+         "Run the wave elevation task again, and check the table that it writes."},
     };
     return kinds;
 }

@@ -1,21 +1,28 @@
 #include "check/quietly.hpp"
 
+#include <algorithm>
 #include <sstream>
 
 namespace sorvik {
 
 std::string quietOutcome::message() const {
-    const std::string mark = "FATAL ERROR: ";
-    std::istringstream lines(text);
-    std::string last;
-    for (std::string line; std::getline(lines, line);) {
-        const std::size_t found = line.find(mark);
-        if (found != line.npos) {
-            return line.substr(found + mark.size());
-        }
-        last = line.empty() ? last : line;
+    // Either "FATAL ERROR: text", or a line of asterisks, the text, and another such line.
+    std::size_t begin = std::min(text.find("FATAL ERROR"), text.find("Fatal error: "));
+    if (begin == text.npos) {
+        const std::size_t last = text.find_last_not_of(" \r\n");
+        const std::size_t before = text.find_last_of("\r\n", last);
+        begin = last == text.npos || before == text.npos ? 0 : before;
+    } else {
+        begin = text.find_first_of(":\n", begin) + 1;
     }
-    return last;
+    const std::size_t mark =
+        hasEnded ? text.find("* * * Terminating", begin) : text.find('\n', begin + 1);
+    std::istringstream words(text.substr(begin, mark - begin));
+    std::string line;
+    for (std::string word; words >> word;) {
+        line += (line.empty() ? "" : " ") + word;
+    }
+    return line;
 }
 
 } // namespace sorvik

@@ -15,7 +15,8 @@ struct quietOutcome {
     int status = 0;        ///< that the process was to end with
     std::string text;      ///< what it printed on standard output
 
-    /// The fatal error that the text shows, without "FATAL ERROR: ", or else its last line.
+    /// The fatal error that the text shows, in one line and without its frame, or else the last
+    /// line.
     std::string message() const;
 };
 

@@ -1,0 +1,21 @@
+#include "check/hullCheck.hpp"
+#include "check/quietly.hpp"
+#include "mesh/bodyMesh.hpp"
+#include "target.hpp"
+
+using namespace sorvik;
+
+/// The first character chooses the ending, the rest is the file. What the program reads, the check
+/// reads too.
+void tryText(const std::string& text) {
+    const char* const endings[] = {".stl", ".gdf", ".dat"};
+    const std::size_t ending = text.empty() ? 0 : static_cast<unsigned char>(text[0]) % 3;
+    const std::string file =
+        fileOf(std::string("hull") + endings[ending], text.substr(text.empty() ? 0 : 1));
+    bodyMesh mesh;
+    const bool hasEnded =
+        quietly([&] { mesh = bodyMesh(file, {0, 0, 0}, {0, 0, 0}, 0); }).hasEnded;
+    const hullReport checked = checkHull(file, {});
+    check(checked.hasPanels == (!hasEnded && !mesh.faces.empty()));
+    check(checked.hasPanels || checked.result.count(severity::error) > 0);
+}

@@ -103,9 +103,9 @@ TEST(inputMap, readsLeadingNumbers) {
 
 TEST(readData, readsWhatBlanksSeparate) {
     const std::tuple<const char*, int, int, std::vector<double>> cases[] = {
-        {"# x y\nm m\n1 2\n", 2, 2, {1, 2}},
+        {"# x y\nm m\n1.5 2\n", 2, 2, {1.5, 2}},
         {"1 2\n3 4 5\n6 7\n", 0, 3, {1, 2, 3, 4, 5}},
-        {"1=2, 3;4 : 5 6\n1 2 3 4 5 6", 0, 6, {}},
+        {"1.5=2, 3;4 : 5 6\n1 2 3 4 5 6", 0, 6, {}},
         {"1 ;2\n3, 4\n", 0, 2, {1, 0, 3, 0}}};
     for (const auto& [text, head, columns, values] : cases) {
         std::istringstream in(text);

@@ -58,6 +58,7 @@ void expectSameStep(textScanner& scanner, std::istream& stream, unsigned kind) {
 
 void expectSameSteps(const std::string& text, std::mt19937& random, int steps) {
     std::istringstream stream(text), source(text);
+    stream.imbue(std::locale::classic());
     textScanner scanner(source);
     for (; steps > 0 && !testing::Test::HasFailure(); --steps) {
         const unsigned kind = static_cast<unsigned>(random() % 7);

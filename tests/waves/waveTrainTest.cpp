@@ -102,9 +102,9 @@ TEST(waveTrain, writesAllComponentsButReadsOne) {
     std::stringstream text;
     text << train;
     EXPECT_EQ(text.str(), "90\t2\t1.5\t0.25\t1.56605\t0.4\t0.7\t4\t6.26418\t-1\n");
-    double next = 0;
+    std::string next;
     text >> train >> next;
-    EXPECT_EQ(next, 0.7);
+    EXPECT_EQ(next, "0.7");
     ASSERT_EQ(train.components().size(), 2U);
     EXPECT_EQ(train.components().front().amplitude(), 0);
     std::istringstream withoutEnd("45\t1\t1\t0.5\t2\t0");

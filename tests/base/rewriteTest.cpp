@@ -1,11 +1,13 @@
 #include "base/rewrite.hpp"
-
-#include "support/files.hpp"
+#include "base/files.hpp"
+#include "support/program.hpp"
 
 #include <cstdlib>
 #include <filesystem>
 
-#include <gtest/gtest.h>
+#ifndef _WIN32
+#include <sys/stat.h>
+#endif
 
 using namespace sorvik;
 namespace fs = std::filesystem;
@@ -40,6 +42,14 @@ TEST(replace, keepsTheOldFileUntilTheNewOneIsWhole) {
 
 #ifndef _WIN32
 const auto writeWord = [](std::ostream& out) { out << "word"; };
+
+TEST(makeFolder, opensNoPipeAndNoLinkToNothing) {
+    const temporaryFolder folder;
+    fs::create_symlink(folder.path("target"), folder.path("test.txt"));
+    ASSERT_EQ(mkfifo(folder.path("test1.txt").c_str(), 0600), 0);
+    EXPECT_TRUE(files::makeFolder(folder.path()));
+    EXPECT_EQ(filesIn(folder), 2);
+}
 
 TEST(replace, writesLinksAndDevicesAsTheyAre) {
     const temporaryFolder folder;

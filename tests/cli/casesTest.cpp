@@ -1,4 +1,3 @@
-#include "support/files.hpp"
 #include "support/program.hpp"
 
 #include <algorithm>

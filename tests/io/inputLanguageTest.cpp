@@ -1,7 +1,6 @@
 #include "base/classicText.hpp"
 #include "io/inputMap.hpp"
 #include "io/sorvikIO.hpp"
-#include "support/files.hpp"
 #include "support/program.hpp"
 
 #include <algorithm>

@@ -1,13 +1,11 @@
 #include "support/numbers.hpp"
 #include "base/sixDigits.hpp"
 #include "base/textScanner.hpp"
-#include "support/files.hpp"
+#include "support/program.hpp"
 
 #include <cmath>
 #include <random>
 #include <sstream>
-
-#include <gtest/gtest.h>
 
 using namespace sorvik;
 

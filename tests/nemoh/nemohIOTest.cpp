@@ -1,6 +1,5 @@
 #include "nemoh/nemohIO.hpp"
 #include "io/printer.hpp"
-#include "support/files.hpp"
 #include "support/program.hpp"
 
 #include <cmath>

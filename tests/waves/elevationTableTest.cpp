@@ -5,7 +5,6 @@
 #include "waves/elevationChunks.hpp"
 #include "waves/elevationKernel.hpp"
 #include "waves/regularWave.hpp"
-#include "waves/waveConfig.hpp"
 #include "waves/waveFactory.hpp"
 
 #include <algorithm>

@@ -2,12 +2,13 @@
 
 #include "numerics/matrixOp.hpp"
 #include "support/program.hpp"
+#include "support/randomSea.hpp"
 #include "waves/Jonswap.hpp"
 #include "waves/angles.hpp"
 #include "waves/customWave.hpp"
+#include "waves/globals.hpp"
 #include "waves/numericTable.hpp"
 #include "waves/timeInstants.hpp"
-#include "waves/waveConfig.hpp"
 
 #include <cmath>
 #include <memory>

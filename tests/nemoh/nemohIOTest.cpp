@@ -142,6 +142,19 @@ TEST_F(nemohProject, putsResultsInTheirPlaces) {
     EXPECT_LT(std::abs(forces[5] - std::polar(5.0, 105.0)), 1e-12);
 }
 
+TEST_F(nemohProject, readsOnAfterEightyNumbers) {
+    nemoh.setEnv(1000, 9.81, 50, 0, 0, 1);
+    nemoh.addBody("a.dat", 0, 0, std::vector<int>(41, 1), {0, 0, 0}, {});
+    std::string text = "Zone";
+    for (int number = 0; number < 2 * 83; ++number) {
+        text += (number % 83 % 80 == 0 ? '\n' : ' ') + std::to_string(number);
+    }
+    writeFile(project.path("results/ExcitationForce.tec"), text);
+    nemoh.readExcitation(2, 1, 1, first, second);
+    EXPECT_EQ(numbers({first.at(80), first.at(81), second.at(80), second.at(81)}),
+              numbers({81, 164, 82, 165}));
+}
+
 TEST_F(nemohProject, endsTheRunAtDamagedResults) {
     describeTwoBodies();
     const std::string file = project.path("results/ExcitationForce.tec");

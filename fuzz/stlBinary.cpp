@@ -6,19 +6,6 @@
 
 using namespace sorvik;
 
-namespace {
-
-/// Whether the first two lines are those of an ASCII file.
-bool looksLikeText(const std::string& content) {
-    std::istringstream in(content);
-    std::string first, second;
-    std::getline(std::getline(in, first), second);
-    return (first.find("solid") != first.npos || first.find("SOLID") != first.npos) &&
-           (second.find("facet") != second.npos || second.find("FACET") != second.npos);
-}
-
-} // namespace
-
 void tryText(const std::string& text) {
     std::string head = text.substr(0, 84);
     head.resize(84);
@@ -28,7 +15,8 @@ void tryText(const std::string& text) {
         return;
     }
     std::istringstream in(text);
-    check(stl::isBinary(in) != looksLikeText(text) && in.tellg() == 0);
+    stl::isBinary(in);
+    check(in.tellg() == 0);
     bodyMesh mesh;
     const bool isWhole = readText(mesh, stl::readBinary, text);
     check(mesh.faces.size() == count && isWhole == (text.size() >= 84 + 50 * std::size_t(count)));

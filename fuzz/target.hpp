@@ -6,7 +6,6 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <iterator>
 #include <random>
 #include <sstream>
 #include <string>
@@ -33,11 +32,6 @@ inline std::string pathOf(const std::string& name) {
 inline std::string fileOf(const std::string& name, const std::string& content) {
     std::ofstream(pathOf(name), std::ios::binary) << content;
     return pathOf(name);
-}
-
-inline std::string contentOf(const std::string& file) {
-    std::ifstream in(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
 }
 
 /// What the program has printed.

@@ -1,11 +1,13 @@
 #include "base/rewrite.hpp"
-
-#include "support/files.hpp"
+#include "base/files.hpp"
+#include "support/program.hpp"
 
 #include <cstdlib>
 #include <filesystem>
 
-#include <gtest/gtest.h>
+#ifndef _WIN32
+#include <sys/stat.h>
+#endif
 
 using namespace sorvik;
 namespace fs = std::filesystem;
@@ -41,33 +43,34 @@ TEST(replace, keepsTheOldFileUntilTheNewOneIsWhole) {
 #ifndef _WIN32
 const auto writeWord = [](std::ostream& out) { out << "word"; };
 
+TEST(makeFolder, opensNoPipeAndNoLinkToNothing) {
+    const temporaryFolder folder;
+    fs::create_symlink(folder.path("target"), folder.path("test.txt"));
+    ASSERT_EQ(mkfifo(folder.path("test1.txt").c_str(), 0600), 0);
+    EXPECT_TRUE(files::makeFolder(folder.path()));
+    EXPECT_EQ(filesIn(folder), 2);
+}
+
 TEST(replace, writesLinksAndDevicesAsTheyAre) {
     const temporaryFolder folder;
-    const std::string link = folder.path("link");
+    const std::string link = folder.path("link"), target = folder.path("target");
     fs::create_symlink("target", link); // first to nothing, then to a file
     for (int i = 0; i < 2; ++i) {
         EXPECT_TRUE(replace(link, writeWord));
         EXPECT_TRUE(fs::is_symlink(link));
-        EXPECT_EQ(readFile(folder.path("target")), "word");
+        EXPECT_EQ(readFile(target), "word");
     }
+    EXPECT_TRUE(rewrite(target, link, [&](std::ostream& out) {
+        out << "new" << std::flush;
+        EXPECT_EQ(readFile(target), "word");
+    }));
+    EXPECT_TRUE(fs::is_symlink(link));
+    EXPECT_EQ(readFile(target), "new");
     EXPECT_EQ(filesIn(folder), 2);
     EXPECT_TRUE(replace("/dev/null", writeWord));
     EXPECT_FALSE(replace("/dev/full", writeWord));
     EXPECT_FALSE(replace(folder.path(), writeWord));
     EXPECT_FALSE(replace(folder.path("none/file"), writeWord));
-}
-
-TEST(rewrite, replacesTheSourceThatALinkLeadsTo) {
-    const temporaryFolder folder;
-    const std::string source = writeFile(folder.path("source"), "old");
-    fs::create_symlink("source", folder.path("link"));
-    EXPECT_TRUE(rewrite(source, folder.path("link"), [&](std::ostream& out) {
-        out << "new" << std::flush;
-        EXPECT_EQ(readFile(source), "old");
-    }));
-    EXPECT_EQ(readFile(source), "new");
-    EXPECT_TRUE(fs::is_symlink(folder.path("link")));
-    EXPECT_EQ(filesIn(folder), 2);
 }
 
 TEST(waveElevation, leavesTheOldTableWhenItIsKilled) {

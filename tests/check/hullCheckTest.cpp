@@ -3,7 +3,7 @@
 #include "check/quietly.hpp"
 #include "mesh/stlFormat.hpp"
 #include "nemoh/nemohIO.hpp"
-#include "support/files.hpp"
+#include "support/program.hpp"
 
 #include <algorithm>
 #include <cmath>

@@ -1,5 +1,5 @@
 #include "check/finding.hpp"
-#include "support/files.hpp"
+#include "support/program.hpp"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

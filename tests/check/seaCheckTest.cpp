@@ -1,6 +1,6 @@
 #include "check/seaCheck.hpp"
 #include "check/elevationStatistics.hpp"
-#include "support/files.hpp"
+#include "support/program.hpp"
 #include "support/program.hpp"
 #include "waves/globals.hpp"
 

@@ -1,6 +1,6 @@
-#include "support/files.hpp"
 #include "support/program.hpp"
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <iterator>
@@ -11,50 +11,44 @@
 //     == TITLE        the beginning
 //     < FILE          an input file
 //     @ FILE          a file on a full disk
-//     $ ARGUMENTS     a run that ends with status 0 and leaves standard error empty
+//     $ ARGUMENTS     a run that ends with status 0, leaves standard error empty, and prints the
+//                     content somewhere
 //     $1 ARGUMENTS    the same with status 1
 //     > FILE          all that the file now holds; "output" is what the last run printed
 //     ~ FILE          text that the file holds somewhere
 //     # TEXT          a comment
-// The content of a file is given in lines that begin with |, or with \ if the line has no end.
-// Short ones follow the name of the file: "> FILE |first |second". A line {FILE} is replaced by
-// what FILE holds in the folder of the run or else in data. Parts above the first title belong to
-// all cases.
+// Content is given in lines that begin with |, or with \ if the line has no end. Short ones follow
+// on the line: "> FILE |first |second". A line {FILE} is replaced by what FILE holds in the folder
+// of the run or else in data. Parts above the first title belong to all cases.
 
 namespace {
 
-struct paragraph {
-    std::string title;
-    int line; // the number of the line before the text, as if all of it stood below the title
-    std::string text;
-};
-
 class cliCase : public testing::Test {
 public:
-    cliCase(std::string fileName, paragraph parts)
-        : file_(std::move(fileName)), told_(std::move(parts)) {}
+    explicit cliCase(std::string parts) : parts_(std::move(parts)) {}
 
 private:
     void TestBody() override {
-        std::istringstream in(told_.text);
-        int number = told_.line;
+        std::istringstream in(parts_);
         for (std::string head, line; std::getline(in, head);) {
-            const testing::ScopedTrace trace(file_.c_str(), ++number, head);
-            std::istringstream words(head);
-            std::string mark, name, content;
-            words >> mark;
-            if (mark[0] != '$' && std::getline(words >> name >> std::ws, line)) {
-                for (size_t end = 0; end != line.npos; line.erase(0, end + 1)) {
-                    end = line.find(" |");
-                    content += contentOf(line.substr(0, end));
-                }
+            SCOPED_TRACE(head);
+            const std::size_t end = std::min(head.find(" |"), head.find(" \\"));
+            std::string content;
+            for (std::size_t at = end; at != head.npos;) {
+                const std::size_t first = at + 1;
+                at = head.find(" |", first);
+                content += contentOf(head.substr(first, at - first));
             }
-            for (; (in.peek() == '|' || in.peek() == '\\') && std::getline(in, line); ++number) {
+            while ((in.peek() == '|' || in.peek() == '\\') && std::getline(in, line)) {
                 content += contentOf(line);
             }
+            std::istringstream words(head.substr(0, end));
+            std::string mark, name;
+            words >> mark;
             if (mark[0] == '$') {
-                checkRun(std::atoi(mark.c_str() + 1), words);
+                checkRun(std::atoi(mark.c_str() + 1), words, content);
             } else {
+                words >> name;
                 useFile(mark, folder_.path(name), content);
             }
         }
@@ -69,11 +63,12 @@ private:
         return readFile(isOwn ? folder_.path(name) : SORVIK_TEST_DATA "/" + name);
     }
 
-    void checkRun(int status, std::istream& arguments) const {
+    void checkRun(int status, std::istream& arguments, const std::string& content) const {
         const programRun run =
             runProgram({std::istream_iterator<std::string>(arguments), {}}, folder_.path());
         EXPECT_EQ(run.status, status);
         EXPECT_EQ(run.errors, "");
+        EXPECT_THAT(run.output, testing::HasSubstr(content));
         writeFile(folder_.path("output"), run.output);
     }
 
@@ -94,35 +89,23 @@ private:
         }
     }
 
-    const std::string file_;
-    const paragraph told_;
+    const std::string parts_;
     const temporaryFolder folder_;
 };
 
-std::vector<paragraph> readParagraphs(std::istream& in) {
-    std::vector<paragraph> all(1); // the first holds the shared parts
-    int number = 0, sharedLines = 0;
-    for (std::string line; std::getline(in, line);) {
-        ++number;
-        if (line.rfind("== ", 0) == 0) {
-            all.push_back({line.substr(3), number - sharedLines, all.front().text});
-        } else {
-            all.back().text += line + '\n';
-            sharedLines += all.size() == 1;
-        }
-    }
-    all.erase(all.begin());
-    return all;
-}
-
 const bool isRegistered = [] {
     for (const auto& entry : std::filesystem::directory_iterator(SORVIK_TEST_DATA "/cli")) {
-        const std::string file = entry.path().generic_string();
         const std::string suite = "cli/" + entry.path().stem().string();
-        std::istringstream in(readFile(file));
-        for (const paragraph& each : readParagraphs(in)) {
-            testing::RegisterTest(suite.c_str(), each.title.c_str(), nullptr, nullptr, file.c_str(),
-                                  each.line, [=]() -> cliCase* { return new cliCase(file, each); });
+        const std::string text = "\n" + readFile(entry.path().string());
+        std::size_t at = text.find("\n== ");
+        const std::string shared = text.substr(1, at);
+        while (at != text.npos) {
+            const std::size_t title = at + 4, end = text.find('\n', title);
+            at = text.find("\n== ", end);
+            const std::string parts = shared + text.substr(end + 1, at - end);
+            testing::RegisterTest(suite.c_str(), text.substr(title, end - title).c_str(), nullptr,
+                                  nullptr, suite.c_str(), 0,
+                                  [=]() -> cliCase* { return new cliCase(parts); });
         }
     }
     return true;

@@ -1,7 +1,6 @@
 #include "base/classicText.hpp"
 #include "io/inputMap.hpp"
 #include "io/sorvikIO.hpp"
-#include "support/files.hpp"
 #include "support/program.hpp"
 
 #include <algorithm>
@@ -97,7 +96,6 @@ TEST(inputMap, namesTheAliasThatAddsMost) {
 struct pipeText : std::stringbuf {
     using std::stringbuf::stringbuf;
     pos_type seekoff(off_type, std::ios::seekdir, std::ios::openmode) override { return -1; }
-    pos_type seekpos(pos_type, std::ios::openmode) override { return -1; }
 };
 
 TEST(readNextEntry, readsOnlyTheLinesItNeeds) {

@@ -1,17 +1,12 @@
 #include "io/inputMap.hpp"
 #include "io/reader.hpp"
 #include "io/sorvikIO.hpp"
-#include "support/files.hpp"
 #include "support/program.hpp"
 
 #include <filesystem>
 #include <limits>
 #include <map>
 #include <sstream>
-
-#ifndef _WIN32
-#include <sys/stat.h>
-#endif
 
 namespace {
 
@@ -32,34 +27,6 @@ TEST(reader, readsWhatItMust) {
     EXPECT_EQ(config.mustRead<std::string>("other", "name"), "x");
     EXPECT_EQ(config.mustRead<std::vector<double>>("list"), (std::vector<double>{1, 2}));
     EXPECT_END_SAYING(config.mustRead<std::string>("a.b"), 1, "Cannot find value of a.b in input");
-    EXPECT_END_SAYING(
-        reader::makeFolder("no/parent"), 1,
-        "\n\n\tThe folder no/parent was not created properly. \n\t Sorvik only creates "
-        "the final layer of the folder tree. Please make sure that the parent "
-        "directory exists, and check permissions.\n\n\n* * * Terminating");
-}
-
-#ifndef _WIN32
-TEST(makeFolder, opensNoPipeAndNoLinkToNothing) {
-    const temporaryFolder folder;
-    std::filesystem::create_symlink(folder.path("target"), folder.path("test.txt"));
-    ASSERT_EQ(mkfifo(folder.path("test1.txt").c_str(), 0600), 0);
-    reader::makeFolder(folder.path());
-    const auto all = std::filesystem::directory_iterator(folder.path());
-    EXPECT_EQ(std::distance(begin(all), end(all)), 2);
-}
-#endif
-
-TEST(getFlag, leavesTheValueWithoutTheFlag) {
-    const char* cases[][4] = {
-        {"x", "-a", "b", "b"}, {"x", "-a", "-5", "FOUND"}, {"x", "y", "-a", "FOUND"}};
-    for (auto& arguments : cases) {
-        std::string value = "as before";
-        EXPECT_EQ(reader::getFlag("-b", 3, arguments, value), -1);
-        EXPECT_EQ(value, "as before");
-        EXPECT_GT(reader::getFlag("-a", 3, arguments, value), 0);
-        EXPECT_EQ(value, arguments[3]);
-    }
 }
 
 TEST(toJSON, writesWordsAsTextAndLimitsIt) {
@@ -103,9 +70,9 @@ TEST(inputMap, readsLeadingNumbers) {
 
 TEST(readData, readsWhatBlanksSeparate) {
     const std::tuple<const char*, int, int, std::vector<double>> cases[] = {
-        {"# x y\nm m\n1 2\n", 2, 2, {1, 2}},
+        {"# x y\nm m\n1.5 2\n", 2, 2, {1.5, 2}},
         {"1 2\n3 4 5\n6 7\n", 0, 3, {1, 2, 3, 4, 5}},
-        {"1=2, 3;4 : 5 6\n1 2 3 4 5 6", 0, 6, {}},
+        {"1.5=2, 3;4 : 5 6\n1 2 3 4 5 6", 0, 6, {}},
         {"1 ;2\n3, 4\n", 0, 2, {1, 0, 3, 0}}};
     for (const auto& [text, head, columns, values] : cases) {
         std::istringstream in(text);

@@ -1,13 +1,11 @@
 #include "support/numbers.hpp"
 #include "base/sixDigits.hpp"
 #include "base/textScanner.hpp"
-#include "support/files.hpp"
+#include "support/program.hpp"
 
 #include <cmath>
 #include <random>
 #include <sstream>
-
-#include <gtest/gtest.h>
 
 using namespace sorvik;
 
@@ -58,6 +56,7 @@ void expectSameStep(textScanner& scanner, std::istream& stream, unsigned kind) {
 
 void expectSameSteps(const std::string& text, std::mt19937& random, int steps) {
     std::istringstream stream(text), source(text);
+    stream.imbue(std::locale::classic());
     textScanner scanner(source);
     for (; steps > 0 && !testing::Test::HasFailure(); --steps) {
         const unsigned kind = static_cast<unsigned>(random() % 7);

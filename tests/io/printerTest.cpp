@@ -21,8 +21,10 @@ TEST(printer, printsMatricesAndLines) {
     for (const int n : {3, -1, 1}) {
         printer::writeDoubles(out, n, &data[n == 1 ? 3 : 0]);
     }
-    EXPECT_EQ(out.str(),
-              "0.5\t10\t25\n" + std::string(reinterpret_cast<const char*>(data.data()), 32));
+    printer::printMatrix(out, 1, 2, data);
+    EXPECT_EQ(out.str(), "0.5\t10\t25\n" +
+                             std::string(reinterpret_cast<const char*>(data.data()), 32) +
+                             "\t1\t2.5\n");
     const auto print = [&] {
         printer::printMatrix(2, 2, data, "A");
         printer::printMatrix(1, 2, std::vector<std::string>{"x", "yy"}, "AB");

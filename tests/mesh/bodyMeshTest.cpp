@@ -93,6 +93,14 @@ TEST(bodyMesh, movesAndTurns) {
     expectNear(of(mesh.faces[0].vertexA), {-19, 8, -1.5}, 1e-5);
 }
 
+TEST(bodyMesh, dropsAPanelWhoseDepthIsNoNumber) {
+    const float none = std::nanf("");
+    bodyMesh mesh;
+    fillMesh(mesh, {triangle({0, 0, HUGE_VALF}, {1, 0, none}, {0, 1, none})});
+    mesh.updateWetSurface(HUGE_VAL);
+    EXPECT_TRUE(mesh.wetFaces.empty());
+}
+
 TEST(bodyMesh, mirrorsThePanelsThatItCounts) {
     bodyMesh mesh;
     fillMesh(mesh, {triangle(A, B, C), triangle()});

@@ -2,7 +2,6 @@
 #include "base/files.hpp"
 #include "mesh/gdfFormat.hpp"
 #include "mesh/stlFormat.hpp"
-#include "support/files.hpp"
 #include "support/meshes.hpp"
 #include "support/program.hpp"
 

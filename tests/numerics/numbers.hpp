@@ -2,6 +2,7 @@
 
 #include "numerics/matrixOp.hpp"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <random>
@@ -19,8 +20,6 @@ inline const double notANumber = std::nan("");
 inline numbers randomNumbers(int count, unsigned seed) {
     std::mt19937 random(seed);
     numbers drawn(static_cast<std::size_t>(count));
-    for (double& number : drawn) {
-        number = static_cast<double>(random()) / 2147483648.0 - 1.0;
-    }
+    std::generate(drawn.begin(), drawn.end(), [&] { return std::ldexp(random(), -31) - 1.0; });
     return drawn;
 }

@@ -11,6 +11,7 @@ std::string streamText(double value) {
         return std::signbit(value) ? "-nan" : "nan";
     }
     std::ostringstream out;
+    out.imbue(std::locale::classic());
     out << value;
     return out.str();
 }

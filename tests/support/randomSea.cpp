@@ -1,10 +1,10 @@
 #include "support/randomSea.hpp"
 
-#include "io/reader.hpp"
+#include "base/classicText.hpp"
 #include "support/numbers.hpp"
+#include "waves/globals.hpp"
 
 #include <ostream>
-#include <string>
 #include <utility>
 
 using namespace sorvik;
@@ -34,12 +34,18 @@ timeInstants randomInstants(std::mt19937& random, int size) {
 
 } // namespace
 
+reader configOf(const std::string& text) {
+    globals::m_isSet = false;
+    globals::set(3, {0.0, 0.0, -9.81}, 1000.0, 1.0, 0.0);
+    globals::m_isSet = false;
+    reader config;
+    classicText in(text);
+    config.inputs = inputMap(in, '=', '.');
+    return config;
+}
+
 testSea::testSea(double ramp)
-    : waveModel([&] {
-          reader config;
-          config.inputs.set("environment.wave.rampTime", std::to_string(ramp));
-          return config;
-      }()) {
+    : waveModel(configOf("environment.wave.rampTime = " + std::to_string(ramp))) {
     declareSumOfTrains<testSea>();
 }
 

@@ -1,11 +1,16 @@
 #pragma once
 
+#include "io/reader.hpp"
 #include "waves/timeInstants.hpp"
 #include "waves/waveModel.hpp"
 
 #include <iosfwd>
 #include <random>
+#include <string>
 #include <vector>
+
+/// The configuration that an input file of this text gives, in the environment of a new run.
+reader configOf(const std::string& text);
 
 /// A sea state of any components, 1000 m deep.
 class testSea : public waveModel {

@@ -5,7 +5,6 @@
 #include "waves/elevationChunks.hpp"
 #include "waves/elevationKernel.hpp"
 #include "waves/regularWave.hpp"
-#include "waves/waveConfig.hpp"
 #include "waves/waveFactory.hpp"
 
 #include <algorithm>
@@ -121,13 +120,11 @@ TEST(elevationTable, isThePlainLoopInOddCases) {
 /// A tide that rises by the water depth during the ramp, with waves that its surface does not show.
 struct risingTide : regularWave {
     using regularWave::regularWave;
-    void setTime(const double& t) override { now = t; }
+    void setTime(const double& t) override { rise = depth() * rampFactorAt(t); }
     void eta(int n, const double* x, const double* y, double* elevation) const override {
-        for (int i = 0; i < n; ++i) {
-            elevation[i] = depth() * rampFactorAt(now) + x[i] - y[i];
-        }
+        std::transform(x, x + n, y, elevation, [&](double a, double b) { return rise + a - b; });
     }
-    double now = 0;
+    double rise = 0;
 };
 
 TEST(elevationTable, asksRegisteredModelsButSumsTheTrainsOfOurOwn) {

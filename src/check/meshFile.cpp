@@ -1,5 +1,6 @@
 #include "check/meshFile.hpp"
 
+#include "base/classicText.hpp"
 #include "base/files.hpp"
 #include "base/littleEndian.hpp"
 #include "check/meshFileScans.hpp"
@@ -8,7 +9,6 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 
 namespace sorvik {
 namespace {
@@ -29,7 +29,7 @@ std::string headOf(const std::string& file) {
 bool hasNumbers(std::istream& in, int count) {
     std::string line;
     std::getline(in, line);
-    std::istringstream numbers(line);
+    classicText numbers(line);
     double value = 0;
     while (count > 0 && numbers >> value) {
         --count;
@@ -38,14 +38,14 @@ bool hasNumbers(std::istream& in, int count) {
 }
 
 bool looksLikeGdf(const std::string& head) {
-    std::istringstream in(head);
+    classicText in(head);
     std::string title;
     std::getline(in, title);
     return hasNumbers(in, 2) && hasNumbers(in, 2) && hasNumbers(in, 1);
 }
 
 bool looksLikeNemoh(const std::string& head) {
-    std::istringstream in(head);
+    classicText in(head);
     int marker = 0;
     int symmetry = 0;
     int number = 0;
@@ -58,7 +58,7 @@ long long facetsAnnounced(const std::string& head) {
 }
 
 std::string formatOf(const std::string& head, std::uintmax_t size) {
-    std::istringstream in(head);
+    classicText in(head);
     if (!stl::isBinary(in)) {
         return "STL, ASCII";
     }

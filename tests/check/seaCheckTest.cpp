@@ -178,6 +178,7 @@ TEST_F(seaTest, seesWhereAWaveFileIsLost) {
 template <class Signal>
 elevationStatistics statisticsOf(Signal signal) {
     std::ostringstream out;
+    out.imbue(std::locale::classic());
     for (int i = 0; i < 5000; ++i) {
         out << 0.1 * i << '\t' << signal(0.1 * i) << "\t0\n";
     }

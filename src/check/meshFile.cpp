@@ -85,10 +85,10 @@ void inspectBinaryStl(const std::string& head, std::uintmax_t size, meshFileFact
     const auto held = static_cast<long long>(size < stlHead ? 0 : (size - stlHead) / stlFacet);
     facts.read = std::min(facts.announced, held);
     if (facts.announced != held) {
-        result.add("unread-records", "The binary STL file announces " +
-                                         std::to_string(facts.announced) +
-                                         " facets, and its length of " + std::to_string(size) +
-                                         " bytes holds " + std::to_string(held) + ".");
+        addCutOff("The binary STL file announces " + std::to_string(facts.announced) +
+                      " facets, and its length of " + std::to_string(size) + " bytes holds " +
+                      std::to_string(held) + ".",
+                  result);
     }
 }
 

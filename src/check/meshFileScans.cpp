@@ -124,6 +124,10 @@ int readNodeLines(std::istream& in, int& number, report& result) {
 
 } // namespace
 
+void addCutOff(const std::string& message, report& result) {
+    result.add("unread-records", message).cure = "Copy or export the file again, whole.";
+}
+
 void scanAsciiStl(std::istream& in, long long panels, meshFileFacts& facts, report& result) {
     long long ends = 0;
     std::vector<location> noNumbers;
@@ -152,8 +156,9 @@ void scanAsciiStl(std::istream& in, long long panels, meshFileFacts& facts, repo
     } else if (!solids.empty()) {
         result.add("unread-records", used + ": only the first solid is read.", std::move(solids));
     } else if (panels != facts.announced || ends != facts.announced) {
-        result.add("unread-records", used + ". The file has " + std::to_string(ends) +
-                                         " lines endfacet; it is cut off or damaged.");
+        addCutOff(used + ". The file has " + std::to_string(ends) +
+                      " lines endfacet; it is cut off or damaged.",
+                  result);
     }
 }
 
@@ -189,8 +194,9 @@ void scanGdf(std::istream& in, meshFileFacts& facts, report& result) {
     const std::string used =
         std::to_string(facts.read) + " of " + std::to_string(announced) + " panels of the file";
     if (records < announced) {
-        result.add("unread-records", "The file announces " + std::to_string(announced) +
-                                         " panels and holds " + std::to_string(records) + ".");
+        addCutOff("The file announces " + std::to_string(announced) + " panels and holds " +
+                      std::to_string(records) + ".",
+                  result);
     } else if (sum.used < (1 - 1e-6) * sum.whole) {
         result.add("unread-records",
                    used + " are used, " + percent(sum.used / sum.whole) +

@@ -16,4 +16,7 @@ void scanGdf(std::istream& in, meshFileFacts& facts, report& result);
 
 void scanNemohMesh(std::istream& in, meshFileFacts& facts, report& result);
 
+/// Adds `unread-records` for a file that is cut off or damaged.
+void addCutOff(const std::string& message, report& result);
+
 } // namespace sorvik

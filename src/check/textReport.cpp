@@ -12,6 +12,11 @@ namespace {
 constexpr std::size_t lineWidth = 80;
 constexpr std::size_t placesShown = 3;
 
+/// A number, or "-" where there is none, as for a centre of nothing.
+std::string numberOf(double value) {
+    return std::isfinite(value) ? numberText(value) : "-";
+}
+
 /// Numbers in parentheses. Those far below the largest are rounding, and shown as 0.
 std::string tuple(const double* values, std::size_t count) {
     double largest = 0;
@@ -21,13 +26,13 @@ std::string tuple(const double* values, std::size_t count) {
     std::string text = "(";
     for (std::size_t i = 0; i < count; ++i) {
         const bool isNoise = std::abs(values[i]) < 1e-9 * largest;
-        text += (i > 0 ? ", " : "") + numberText(isNoise ? 0 : values[i]);
+        text += (i > 0 ? ", " : "") + numberOf(isNoise ? 0 : values[i]);
     }
     return text + ")";
 }
 
 struct valueText {
-    std::string operator()(double value) const { return numberText(value); }
+    std::string operator()(double value) const { return numberOf(value); }
     std::string operator()(long long value) const { return std::to_string(value); }
     std::string operator()(const std::string& value) const { return value; }
     std::string operator()(const std::vector<double>& values) const {

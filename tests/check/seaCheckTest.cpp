@@ -1,12 +1,10 @@
 #include "check/seaCheck.hpp"
 #include "check/elevationStatistics.hpp"
 #include "support/program.hpp"
-#include "support/program.hpp"
 #include "waves/globals.hpp"
 
 #include <cmath>
 #include <filesystem>
-#include <regex>
 #include <sstream>
 
 using namespace sorvik;
@@ -107,10 +105,12 @@ TEST_F(seaTest, namesKeysThatCureTheDefaultGrid) {
         ASSERT_NE(before.find("unresolved-peak"), nullptr);
         EXPECT_EQ(before.find("unresolved-peak")->level, severity::error);
         const std::string cure = before.find("unresolved-peak")->cure;
+        std::istringstream words(cure);
         std::string keys;
-        const std::regex pair("(f0|f1|components|Hs|alpha) = [-+.e0-9]*[0-9]");
-        for (std::sregex_iterator each(cure.begin(), cure.end(), pair), end; each != end; ++each) {
-            keys += each->str() + " ";
+        for (std::string key, word; words >> word; key = word) {
+            if (word == "=" && words >> word) {
+                keys += key.append(" = ") + word.substr(0, word.find(',')) + " ";
+            }
         }
         const report after = check(wave(keys + level + " type = JONSWAP", seed));
         EXPECT_EQ(namesOf(after), "") << keys;

@@ -37,7 +37,7 @@ std::string fixedText(double value) {
     char digits[400];
     const auto end =
         std::to_chars(digits, digits + sizeof digits, value, std::chars_format::fixed, 3);
-    const std::string text(digits, end.ptr);
+    std::string text(digits, end.ptr);
     return padded(text == "-0.000" ? "0.000" : text, 7);
 }
 

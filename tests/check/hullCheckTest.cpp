@@ -178,7 +178,7 @@ TEST_F(hullCheck, findsEachFaultAndNothingInASoundHull) {
         {{"panel-without-area"},
          edited([&](panelList& p) { p.emplace_back(low.vertexA, low.vertexA, low.vertexB); })},
         {{"not-finite"}, edited([&](panelList& p) {
-             p.emplace_back(low.vertexA, low.vertexB, corner(NAN, 0, 0));
+             p.emplace_back(low.vertexA, low.vertexB, corner(std::nan(""), 0, 0));
          })},
         {{"open-edges", "tiny-panel"}, edited([&](panelList& p) {
              p.emplace_back(low.vertexA, low.vertexA + corner(2e-4, 0, 0),

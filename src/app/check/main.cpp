@@ -4,6 +4,7 @@
 #include "base/platform.hpp"
 #include "check/textReport.hpp"
 
+#include <cstdio>
 #include <cstdlib>
 #include <iostream>
 #include <new>
@@ -51,18 +52,28 @@ void show(const request& asked, const report& result) {
 }
 
 int run(const request& asked) {
+    const report result = asked.check();
+    show(asked, result);
+    const bool isBad = result.count(severity::error) > 0 ||
+                       (asked.isStrict && result.count(severity::warning) > 0);
+    return isBad ? hasErrors : isFine;
+}
+
+int runCommandLine(int argc, const char** argv) {
+    request asked;
+    CLI::App app("Checks meshes, input files, sea states and Nemoh projects before they are paid "
+                 "for.\nEnds with status 0 without an error, 1 with one, 2 if it cannot check.",
+                 "sorvikCheck");
+    app.set_version_flag("--version", "sorvikCheck " SORVIK_VERSION);
+    app.require_subcommand(1);
+    addHullCommand(app, asked);
+    addSeaCommand(app, asked);
     try {
-        const report result = asked.check();
-        show(asked, result);
-        const bool isBad = result.count(severity::error) > 0 ||
-                           (asked.isStrict && result.count(severity::warning) > 0);
-        return isBad ? hasErrors : isFine;
-    } catch (const std::bad_alloc&) {
-        std::cerr << "sorvikCheck: There is not enough memory for this check.\n";
-    } catch (const std::exception& error) {
-        std::cerr << "sorvikCheck: " << error.what() << '\n';
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error) == 0 ? isFine : cannotRun;
     }
-    return cannotRun;
+    return run(asked);
 }
 
 } // namespace
@@ -70,18 +81,12 @@ int run(const request& asked) {
 
 int main(int argc, const char** argv) {
     sorvik::platform::holdStandardStreams();
-    sorvik::request asked;
-    CLI::App app("Checks meshes, input files, sea states and Nemoh projects before they are paid "
-                 "for.\nEnds with status 0 without an error, 1 with one, 2 if it cannot check.",
-                 "sorvikCheck");
-    app.set_version_flag("--version", "sorvikCheck " SORVIK_VERSION);
-    app.require_subcommand(1);
-    sorvik::addHullCommand(app, asked);
-    sorvik::addSeaCommand(app, asked);
     try {
-        app.parse(argc, argv);
-    } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? sorvik::isFine : sorvik::cannotRun;
+        return sorvik::runCommandLine(argc, argv);
+    } catch (const std::bad_alloc&) {
+        std::fputs("sorvikCheck: There is not enough memory for this check.\n", stderr);
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "sorvikCheck: %s\n", error.what());
     }
-    return sorvik::run(asked);
+    return sorvik::cannotRun;
 }

@@ -113,6 +113,29 @@ const std::vector<findingKind>& findingKinds() {
          "The heights in the table are not those of the components: the table belongs to another "
          "input.",
          "Run the wave elevation task again, and check the table that it writes."},
+        // ---- project ----
+        {"unread-project", error,
+         "Nemoh 3 stops in Nemoh.cal: it does not find what it reads next.",
+         "Correct that line, or make the project again; Nemoh 2 has other lines."},
+        {"missing-file", error, "A file or folder that Nemoh 3 reads or writes to is missing.",
+         "Make the project again, or copy the file into it."},
+        {"bad-file-name", error,
+         "Nemoh 3 reads another name of a file, and ends with \"End of file\": a name ends at a "
+         "blank, comma, slash or semicolon, and after 80 characters.",
+         "Give the file a short name without such characters."},
+        {"counts-differ", error, "Files of the project announce different numbers.",
+         "Make the files again that are older than Nemoh.cal."},
+        {"out-of-range", error, "A number is outside the range in which it has a meaning.",
+         "Correct the number."},
+        {"above-water", error, "Nodes of the mesh lie above z = 0, the water that Nemoh knows.",
+         "Cut the mesh at the water level, as sorvikPre does unless keepMesh is set."},
+        {"irregular-frequency", warning,
+         "The range reaches an irregular frequency, near which the results are wrong.",
+         "End the range below it, or close the mesh by a lid of panels at z = 0."},
+        {"no-hydrostatics", note,
+         "The project has no file of hydrostatics, which sorvikPre does not write. Motions need "
+         "it.",
+         "Write it by sorvikCheck hull with --hydrostatics."},
     };
     return kinds;
 }

@@ -78,6 +78,7 @@ int main(int argc, const char** argv) {
     app.require_subcommand(1);
     sorvik::addHullCommand(app, asked);
     sorvik::addSeaCommand(app, asked);
+    sorvik::addProjectCommand(app, asked);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

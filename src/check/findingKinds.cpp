@@ -136,6 +136,24 @@ const std::vector<findingKind>& findingKinds() {
          "The project has no file of hydrostatics, which sorvikPre does not write. Motions need "
          "it.",
          "Write it by sorvikCheck hull with --hydrostatics."},
+        // ---- results ----
+        {"unread-results", error,
+         "A file of results is missing, or does not hold what it announces.",
+         "Run Nemoh's solver and post-processor again, and see whether they end without an error."},
+        {"unsymmetric", warning,
+         "Added mass or damping differs from its transpose by more than 5 %: the mesh is too "
+         "coarse "
+         "or faulty, or a frequency is irregular.",
+         "Check the mesh with sorvikCheck hull, and refine it."},
+        {"negative-damping", warning,
+         "Damping on the diagonal is below 0: waves would feed the motion. Above 5 % of the "
+         "largest "
+         "damping it is an error.",
+         "Check the normals of the mesh; leave out irregular and very low frequencies."},
+        {"spike", warning,
+         "A value stands out from its neighbouring frequencies: an irregular frequency, a narrow "
+         "resonance between bodies or in a moonpool, or too few frequencies.",
+         "Refine the frequencies there, or close the mesh by a lid of panels at z = 0."},
     };
     return kinds;
 }

@@ -22,6 +22,7 @@ struct request {
 void addHullCommand(CLI::App& app, request& asked);
 void addSeaCommand(CLI::App& app, request& asked);
 void addProjectCommand(CLI::App& app, request& asked);
+void addResultsCommand(CLI::App& app, request& asked);
 
 /// A command in the help, and its subject there.
 struct commandText {

@@ -79,6 +79,7 @@ int main(int argc, const char** argv) {
     sorvik::addHullCommand(app, asked);
     sorvik::addSeaCommand(app, asked);
     sorvik::addProjectCommand(app, asked);
+    sorvik::addResultsCommand(app, asked);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

@@ -25,6 +25,8 @@ add_executable(sorvikCheck
   src/app/check/hullCommand.cpp
   src/app/check/jsonReport.cpp
   src/app/check/main.cpp
+  src/app/check/projectCommand.cpp
+  src/app/check/resultsCommand.cpp
   src/app/check/seaCommand.cpp)
 sorvik_options(sorvikCheck)
 target_link_libraries(sorvikCheck PRIVATE sorvik ${libraries})

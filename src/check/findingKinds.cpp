@@ -113,6 +113,47 @@ const std::vector<findingKind>& findingKinds() {
          "The heights in the table are not those of the components: the table belongs to another "
          "input.",
          "Run the wave elevation task again, and check the table that it writes."},
+        // ---- project ----
+        {"unread-project", error,
+         "Nemoh 3 stops in Nemoh.cal: it does not find what it reads next.",
+         "Correct that line, or make the project again; Nemoh 2 has other lines."},
+        {"missing-file", error, "A file or folder that Nemoh 3 reads or writes to is missing.",
+         "Make the project again, or copy the file into it."},
+        {"bad-file-name", error,
+         "Nemoh 3 reads another name of a file, and ends with \"End of file\": a name ends at a "
+         "blank, comma, slash or semicolon, and after 80 characters.",
+         "Give the file a short name without such characters."},
+        {"counts-differ", error, "Files of the project announce different numbers.",
+         "Make the files again that are older than Nemoh.cal."},
+        {"out-of-range", error, "A number is outside the range in which it has a meaning.",
+         "Correct the number."},
+        {"above-water", error, "Nodes of the mesh lie above z = 0, the water that Nemoh knows.",
+         "Cut the mesh at the water level, as sorvikPre does unless keepMesh is set."},
+        {"irregular-frequency", warning,
+         "The range reaches an irregular frequency, near which the results are wrong.",
+         "End the range below it, or close the mesh by a lid of panels at z = 0."},
+        {"no-hydrostatics", note,
+         "The project has no file of hydrostatics, which sorvikPre does not write. Motions need "
+         "it.",
+         "Write it by sorvikCheck hull with --hydrostatics."},
+        // ---- results ----
+        {"unread-results", error,
+         "A file of results is missing, or does not hold what it announces.",
+         "Run Nemoh's solver and post-processor again, and see whether they end without an error."},
+        {"unsymmetric", warning,
+         "Added mass or damping differs from its transpose by more than 5 %: the mesh is too "
+         "coarse "
+         "or faulty, or a frequency is irregular.",
+         "Check the mesh with sorvikCheck hull, and refine it."},
+        {"negative-damping", warning,
+         "Damping on the diagonal is below 0: waves would feed the motion. Above 5 % of the "
+         "largest "
+         "damping it is an error.",
+         "Check the normals of the mesh; leave out irregular and very low frequencies."},
+        {"spike", warning,
+         "A value stands out from its neighbouring frequencies: an irregular frequency, a narrow "
+         "resonance between bodies or in a moonpool, or too few frequencies.",
+         "Refine the frequencies there, or close the mesh by a lid of panels at z = 0."},
     };
     return kinds;
 }

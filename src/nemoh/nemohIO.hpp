@@ -21,6 +21,9 @@ public:
     /// cannot be made or written to ends the process with status 1; so does a missing parent.
     explicit nemohIO(std::string path);
 
+    /// The project in the folder `path`, for reading: makes and changes nothing.
+    static nemohIO existing(std::string path);
+
     // ---- Control files (nemohIO_cal.cpp) ----
 
     /// Returns the text of `value` and a blank, with a point between them if the value is an
@@ -119,6 +122,8 @@ public:
     static void transposeTo(int rows, int cols, const double* source, double* target);
 
 private:
+    nemohIO() = default;
+
     std::string folder_;
     std::ofstream cal_;
     int nBodies_ = 0;

@@ -11,6 +11,7 @@
 #include <cmath>
 #include <limits>
 #include <ostream>
+#include <utility>
 
 // Nemoh.cal is read by line: values first, then a comment. Sections, in Nemoh's order:
 //
@@ -74,6 +75,12 @@ nemohIO::nemohIO(std::string path) : folder_(std::move(path)) {
     for (const char* name : {"", "/mesh", "/results"}) {
         reader::makeFolder(folder_ + name);
     }
+}
+
+nemohIO nemohIO::existing(std::string path) {
+    nemohIO project;
+    project.folder_ = std::move(path);
+    return project;
 }
 
 std::string nemohIO::printVal(double value) {

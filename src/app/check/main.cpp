@@ -68,6 +68,8 @@ int runCommandLine(int argc, const char** argv) {
     app.require_subcommand(1);
     addHullCommand(app, asked);
     addSeaCommand(app, asked);
+    addProjectCommand(app, asked);
+    addResultsCommand(app, asked);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

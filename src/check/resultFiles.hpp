@@ -1,0 +1,15 @@
+#pragma once
+
+#include "check/finding.hpp"
+#include "check/nemohCal.hpp"
+#include "check/resultTables.hpp"
+
+#include <string>
+
+namespace sorvik {
+
+/// Reads the results of the project in `folder`, as far as they can be read; what cannot becomes a
+/// finding: `unread-results`, `counts-differ`, `not-finite` or `no-hydrostatics`.
+nemohResults readNemohResults(const std::string& folder, const nemohCal& cal, report& result);
+
+} // namespace sorvik

@@ -77,6 +77,7 @@ int main(int argc, const char** argv) {
     app.set_version_flag("--version", "sorvikCheck " SORVIK_VERSION);
     app.require_subcommand(1);
     sorvik::addHullCommand(app, asked);
+    sorvik::addInputCommand(app, asked);
     sorvik::addSeaCommand(app, asked);
     try {
         app.parse(argc, argv);

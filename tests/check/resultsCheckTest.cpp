@@ -6,6 +6,7 @@
 #include <cmath>
 #include <filesystem>
 #include <functional>
+#include <locale>
 #include <set>
 #include <sstream>
 
@@ -33,6 +34,7 @@ matrices soundMatrices() {
 
 std::string radiationText(const matrices& m) {
     std::ostringstream text;
+    text.imbue(std::locale::classic());
     text << "VARIABLES=\"w (rad/s)\"\n\"A   1   3\" \"B   1   3\"\n\"A   1   5\" \"B   1   5\"\n";
     for (const auto& motion : m) {
         text << "Zone t=\"Motion of body    1 in DoF   1\",I=     9,F=POINT\n";

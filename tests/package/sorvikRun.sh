@@ -2,7 +2,7 @@
 # sorvikRun.sh PROGRAM WRAPPER DATA SHELL...: the wrapper sorvik-run under each shell, on the cases of
 # DATA/sorvikRun.txt. A stand-in runs the program, and AFTER it what the case says.
 program=$1 data=$3 runs=0 faults=0 path=$PATH
-export wrapper=$2 shell work
+export wrapper=$2 shell work checker=${1%/*}/sorvikCheck
 shift 3
 work=$(mktemp -d)
 trap 'umount "$work/disk" 2>/dev/null; rm -rf "$work"' EXIT
@@ -34,6 +34,7 @@ for shell in "$@"; do
         rm -rf now && cp -r "$data/torture/input" now && cd now && stdin=/dev/null PATH=$path
         eval "words=($arguments); $before" && check "$reason" && cd ..
     done < <(grep -v '^#' "$data/sorvikRun.txt")
+    unset SORVIK_CHECK
     [ ! -e late ] || { fault "a signal did not end the program" && rm late; }
     export SORVIK_PRE=$program
     [ "$($shell "$wrapper" -q -meshConvert now/box.dat now/q.stl 2>&1 | tail -n 1)" = \

@@ -49,7 +49,7 @@ inputMap::inputMap(const std::string& name) {
 
 bool inputMap::readFile(const std::string& name) {
     fileName_ = name;
-    assign_ = isJson(fileName_) ? ':' : '=';
+    assign_ = assignmentOf(fileName_);
     std::ifstream file = sorvik::files::open(fileName_);
     if (!file.is_open()) {
         return false;
@@ -60,6 +60,10 @@ bool inputMap::readFile(const std::string& name) {
     map = sorvikIO::readInputStream(text, assign_, member_);
     assignSources();
     return true;
+}
+
+char inputMap::assignmentOf(const std::string& name) {
+    return isJson(name) ? ':' : '=';
 }
 
 void inputMap::assignSources() {

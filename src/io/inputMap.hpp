@@ -25,6 +25,9 @@ public:
     /// cannot be opened. A file that cannot be read to its end is fatal.
     bool readFile(const std::string& name);
 
+    /// What stands between keys and values in the file `name`: ':' where it contains ".json".
+    static char assignmentOf(const std::string& name);
+
     /// Resolves aliases until nothing changes, in at most 502 passes.
     void assignSources();
 

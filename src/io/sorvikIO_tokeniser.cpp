@@ -3,12 +3,16 @@
 #include "base/classicLocale.hpp"
 #include "base/excerpt.hpp"
 #include "io/brackets.hpp"
+#include "io/entryReader.hpp"
 #include "io/printer.hpp"
 
 #include <algorithm>
 #include <istream>
 #include <iterator>
 #include <string_view>
+
+using sorvik::entryKind;
+using sorvik::entryReader;
 
 // Text becomes entries line by line; a value that begins with a bracket or a quote is read as a
 // block across lines, and what follows the block on its last line is read as a line of its own.
@@ -17,130 +21,8 @@ const std::string sorvikIO::notFoundStr = "KEY_NOT_FOUND";
 
 namespace {
 
-/// What `readNextEntry` finds; its values are those that it returns.
-enum class entryKind { none, plain, nested };
-
 /// What `stripFromUnwanted` turns into blanks besides brackets.
 constexpr std::string_view separators = ",;\t";
-
-/// Whether a block holds entries. A drive path such as C:\ in a JSON string is no assignment.
-bool isNested(const std::string& block, char assign) {
-    const std::size_t first = block.find(assign);
-    return first != std::string::npos && first != block.find(":\\");
-}
-
-/// A key, or a value that opens no block.
-std::string stripped(std::string_view part) {
-    std::string text(part);
-    sorvikIO::strip(text);
-    sorvikIO::stripFromUnwanted(text);
-    return text;
-}
-
-/// Whether the first character of a value, blanks apart, opens a block.
-bool beginsBlock(std::string_view value) {
-    const std::size_t first = value.find_first_not_of(" \t");
-    return first != std::string_view::npos && sorvik::brackets::opens(value[first]);
-}
-
-/// Joins the text of a block from its parts: `nextPart` gives what precedes the next `closer`, or
-/// the end of the text, and false when there is nothing more.
-template <class NextPart>
-std::string joinBlock(char opener, char closer, NextPart nextPart) {
-    std::string block;
-    std::ptrdiff_t depth = 1;
-    for (std::string part; nextPart(part);) {
-        depth += std::count(part.begin(), part.end(), opener) - 1;
-        block += part;
-        if (depth == 0) {
-            break;
-        }
-        block += closer;
-    }
-    return block;
-}
-
-/// Reads the entries of a text one after the other. What is found further on in a line is kept for
-/// the next entry, so that a line of many blocks is searched once and not once a block.
-class entryReader {
-public:
-    entryReader(std::string_view text, char assignDLM) : text_(text), assign_(assignDLM) {}
-
-    /// As `sorvikIO::readNextEntry`.
-    entryKind next(std::string& key, std::string& value) {
-        while (!isAtEnd_) {
-            const std::size_t end = contentEnd();
-            split_ = find(assign_, split_);
-            if (split_ >= end) {
-                moveBehind(lineEnd_);
-                continue;
-            }
-            key = stripped(text_.substr(position_, split_ - position_));
-            const std::string_view rest = text_.substr(split_ + 1, end - split_ - 1);
-            if (beginsBlock(rest)) {
-                value = takeBlock();
-                return isNested(value, assign_) ? entryKind::nested : entryKind::plain;
-            }
-            value = stripped(rest);
-            moveBehind(lineEnd_);
-            return entryKind::plain;
-        }
-        return entryKind::none;
-    }
-
-    /// Newlines of the text before the value of the last entry.
-    std::ptrdiff_t newlinesBefore() const {
-        return std::count(text_.data(), text_.data() + split_, '\n');
-    }
-
-private:
-    /// Where the line, or the comment in it, ends what is read of it.
-    std::size_t contentEnd() {
-        lineEnd_ = find('\n', lineEnd_);
-        percent_ = find('%', percent_);
-        hash_ = find('#', hash_);
-        const std::size_t end = std::min(lineEnd_, text_.size());
-        return percent_ < end ? percent_ : std::min(hash_, end);
-    }
-
-    /// Reads the block that follows the assignment.
-    std::string takeBlock() {
-        position_ = text_.find_first_not_of(" \t", split_ + 1);
-        const char opener = text_[position_++];
-        const char closer = sorvik::brackets::closerOf(opener);
-        return joinBlock(opener, closer, [&](std::string& part) {
-            const bool hasMore = !isAtEnd_;
-            if (hasMore) {
-                const std::size_t end = text_.find(closer, position_);
-                part = text_.substr(position_, end - position_);
-                moveBehind(end);
-            }
-            return hasMore;
-        });
-    }
-
-    /// The first `c` from the position on, where `known` is the first from an earlier one on.
-    std::size_t find(char c, std::size_t known) const {
-        return known != unknown && known >= position_ ? known : text_.find(c, position_);
-    }
-
-    /// Moves behind the character that was found, or to the end where none was.
-    void moveBehind(std::size_t found) {
-        isAtEnd_ = found == std::string_view::npos;
-        position_ = isAtEnd_ ? text_.size() : found + 1;
-    }
-
-    static constexpr std::size_t unknown = std::string_view::npos - 1;
-
-    std::string_view text_;
-    char assign_;
-    std::size_t position_ = 0;
-    std::size_t split_ = unknown;
-    std::size_t lineEnd_ = unknown;
-    std::size_t percent_ = unknown;
-    std::size_t hash_ = unknown;
-    bool isAtEnd_ = false;
-};
 
 /// A block whose entries are being read.
 struct openBlock {
@@ -237,15 +119,16 @@ int sorvikIO::readNextEntry(std::istream& in, std::string& key, std::string& val
         if (split == std::string::npos) {
             continue;
         }
-        key = stripped(line.substr(0, split));
+        key = sorvik::strippedText(line.substr(0, split));
         const std::string rest = line.substr(split + 1);
-        if (!beginsBlock(rest)) {
-            value = stripped(rest);
+        if (!sorvik::beginsBlock(rest)) {
+            value = sorvik::strippedText(rest);
             return static_cast<int>(entryKind::plain);
         }
         in.seekg(start + static_cast<std::streamoff>(split + 1));
         value = extractBlock(in);
-        return static_cast<int>(isNested(value, assign) ? entryKind::nested : entryKind::plain);
+        return static_cast<int>(sorvik::holdsEntries(value, assign) ? entryKind::nested
+                                                                    : entryKind::plain);
     }
     in.setstate(std::ios::failbit);
     return static_cast<int>(entryKind::none);
@@ -256,7 +139,8 @@ std::string sorvikIO::extractBlock(std::istream& in) {
     char opener = 0;
     in >> opener;
     const char closer = sorvik::brackets::closerOf(opener);
-    return joinBlock(opener, closer, [&](std::string& part) {
+    bool isClosed = false;
+    return sorvik::joinBlock(opener, closer, isClosed, [&](std::string& part) {
         const bool hasMore = in.good();
         if (hasMore) {
             std::getline(in, part, closer);

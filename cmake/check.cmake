@@ -23,6 +23,7 @@ if(NOT (CLI11_FOUND AND nlohmann_json_FOUND)
 endif()
 add_executable(sorvikCheck
   src/app/check/hullCommand.cpp
+  src/app/check/inputCommand.cpp
   src/app/check/jsonReport.cpp
   src/app/check/main.cpp
   src/app/check/projectCommand.cpp

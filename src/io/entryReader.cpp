@@ -66,11 +66,12 @@ std::string entryReader::takeBlock() {
     opener_ = text_[position_++];
     valueBegin_ = position_;
     const char closer = brackets::closerOf(opener_);
-    return joinBlock(opener_, closer, isClosed_, [&](std::string& part) {
+    return joinBlock(opener_, closer, [&](std::string& part) {
         const bool hasMore = !isAtEnd_;
         if (hasMore) {
             const std::size_t end = text_.find(closer, position_);
             part = text_.substr(position_, end - position_);
+            isClosed_ = end != std::string_view::npos; // by the last part
             moveBehind(end);
         }
         return hasMore;

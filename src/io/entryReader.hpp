@@ -18,10 +18,9 @@ bool beginsBlock(std::string_view value);
 bool holdsEntries(const std::string& block, char assign);
 
 /// Joins the text of a block from its parts: `nextPart` gives what precedes the next `closer`, or
-/// the end of the text, and false when there is nothing more. `isClosed` receives whether the
-/// bracket that closes the block was found.
+/// the end of the text, and false when there is nothing more.
 template <class NextPart>
-std::string joinBlock(char opener, char closer, bool& isClosed, NextPart nextPart) {
+std::string joinBlock(char opener, char closer, NextPart nextPart) {
     std::string block;
     std::ptrdiff_t depth = 1;
     for (std::string part; nextPart(part);) {
@@ -32,7 +31,6 @@ std::string joinBlock(char opener, char closer, bool& isClosed, NextPart nextPar
         }
         block += closer;
     }
-    isClosed = depth == 0;
     return block;
 }
 

@@ -139,8 +139,7 @@ std::string sorvikIO::extractBlock(std::istream& in) {
     char opener = 0;
     in >> opener;
     const char closer = sorvik::brackets::closerOf(opener);
-    bool isClosed = false;
-    return sorvik::joinBlock(opener, closer, isClosed, [&](std::string& part) {
+    return sorvik::joinBlock(opener, closer, [&](std::string& part) {
         const bool hasMore = in.good();
         if (hasMore) {
             std::getline(in, part, closer);

@@ -20,6 +20,7 @@ struct request {
 
 // Each adds its command with its options to the application; `asked` must outlive that.
 void addHullCommand(CLI::App& app, request& asked);
+void addInputCommand(CLI::App& app, request& asked);
 void addSeaCommand(CLI::App& app, request& asked);
 void addProjectCommand(CLI::App& app, request& asked);
 void addResultsCommand(CLI::App& app, request& asked);

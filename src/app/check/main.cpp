@@ -67,6 +67,7 @@ int runCommandLine(int argc, const char** argv) {
     app.set_version_flag("--version", "sorvikCheck " SORVIK_VERSION);
     app.require_subcommand(1);
     addHullCommand(app, asked);
+    addInputCommand(app, asked);
     addSeaCommand(app, asked);
     addProjectCommand(app, asked);
     addResultsCommand(app, asked);

@@ -1,7 +1,7 @@
 #include "check/inputFileCheck.hpp"
 
 #include "check/keyTable.hpp"
-#include "support/files.hpp"
+#include "support/program.hpp"
 
 #include <gmock/gmock.h>
 

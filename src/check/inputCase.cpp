@@ -49,12 +49,12 @@ double depthOf(const inputCase& input) {
 }
 
 std::string checkedFile(const inputCase& input, const std::string& key, report& result) {
-    const std::string name = input.valueOf(key);
+    std::string name = input.valueOf(key);
     if (files::canOpen(name)) {
         return name;
     }
     const auto folder = std::filesystem::path(input.file).parent_path();
-    const std::string beside = (folder / name).string();
+    std::string beside = (folder / name).string();
     if (!folder.empty() && files::canOpen(beside)) {
         finding& found = addOfKey(result, "missing-file", input, key,
                                   key + " names " + name +

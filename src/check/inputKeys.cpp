@@ -131,7 +131,7 @@ std::string meantKey(const inputCase& input, const std::string& key) {
     }
     const std::string body = bodyFor(input, key);
     for (const inputKey& known : keyTable()) {
-        const std::string name = known.nameFor(body);
+        std::string name = known.nameFor(body);
         if (isNear(key, name)) {
             return name;
         }
@@ -167,6 +167,13 @@ std::string joined(const std::vector<std::string>& keys, std::size_t room) {
     return text;
 }
 
+void addUnknown(const inputCase& input, const std::string& key, const std::string& meant,
+                report& result) {
+    finding& found = addOfKey(result, "unknown-key", input, key,
+                              "No task reads " + key + ". " + meant + " is probably meant.");
+    found.cure = "Write " + meant + ", unless another program of the suite reads " + key + ".";
+}
+
 } // namespace
 
 void checkInputKeys(const inputCase& input, report& result) {
@@ -188,9 +195,7 @@ void checkInputKeys(const inputCase& input, report& result) {
             others.push_back(key);
             continue;
         }
-        addOfKey(result, "unknown-key", input, key,
-                 "No task reads " + key + ". " + meant + " is probably meant.")
-            .cure = "Write " + meant + ", unless another program of the suite reads " + key + ".";
+        addUnknown(input, key, meant, result);
     }
     constexpr std::size_t room = 50;
     const std::string few = others.empty() ? "" : '(' + joined(others, room) + ')';

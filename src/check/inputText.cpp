@@ -64,7 +64,8 @@ public:
                     entry(place).outcome = textEntry::fate::merged;
                     entry(place).firstLine = former->second;
                 }
-                const std::string_view inner = entry(place).raw;
+                const std::string_view inner =
+                    entry(place).isClosed ? entry(place).raw : result_.unclosed.emplace_back(value);
                 addBlock(own, key, scan(inner, valueLine, prefix + key + sorvikIO::memberDLM));
             }
         }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <list>
 #include <map>
 #include <string>
 #include <string_view>
@@ -31,9 +32,18 @@ struct textEntry {
 
 /// What the map of an input file hides: entries that lose, lines, brackets.
 struct inputText {
+    inputText() = default;
+    inputText(const inputText&) = delete; // Entries point into `unclosed`.
+    inputText& operator=(const inputText&) = delete;
+    inputText(inputText&&) = default;
+    inputText& operator=(inputText&&) = default;
+    ~inputText() = default;
+
     std::vector<textEntry> entries; ///< in the order of the text
     /// The place in `entries` of every key that is kept: those of the map before its aliases.
     std::map<std::string, std::size_t> kept;
+    /// Texts of blocks that are not closed, which are read with the brackets that they lack.
+    std::list<std::string> unclosed;
     std::vector<int> ignoredLines; ///< that hold text, but neither an entry nor a comment
 };
 

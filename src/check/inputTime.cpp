@@ -42,7 +42,8 @@ highest highestFrequency(const inputCase& input) {
         return {};
     }
     if (input.has(prefix + "period")) {
-        return {prefix + "period", std::fabs(1 / input.number(prefix + "period"))};
+        const double period = std::fabs(input.number(prefix + "period"));
+        return {prefix + "period", period > 0 ? 1 / period : 0};
     }
     if (input.has(prefix + "frequency")) {
         return {prefix + "frequency",

@@ -129,7 +129,7 @@ void checkCustom(const inputCase& input, report& result) {
             counts.push_back(input.list(key).size());
         } else if (!input.has(file)) {
             addOfKey(result, "missing-key", input, key,
-                     "Waves of type custom need " + key + ", or " + file + '.');
+                     "Waves of type custom need " + key + ", or environment.wave.file.");
         }
     }
     if (input.has(file)) {

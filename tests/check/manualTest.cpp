@@ -1,6 +1,8 @@
 #include "check/finding.hpp"
 #include "support/program.hpp"
 
+#include <set>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -9,7 +11,9 @@ namespace {
 // Update the table of docs/check.md from what this test shows.
 TEST(manual, describesEveryFinding) {
     std::string table;
+    std::set<std::string_view> names;
     for (const sorvik::findingKind& kind : sorvik::findingKinds()) {
+        EXPECT_TRUE(names.insert(kind.name).second) << kind.name << " is there twice";
         for (const std::string_view part :
              {std::string_view("| `"), kind.name, std::string_view("` | "), nameOf(kind.level),
               std::string_view(" | "), kind.cause, std::string_view(" | "), kind.cure}) {

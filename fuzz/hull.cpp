@@ -13,8 +13,7 @@ void tryText(const std::string& text) {
     const std::string file =
         fileOf(std::string("hull") + endings[ending], text.substr(text.empty() ? 0 : 1));
     bodyMesh mesh;
-    const bool hasEnded =
-        quietly([&] { mesh = bodyMesh(file, {0, 0, 0}, {0, 0, 0}, 0); }).hasEnded;
+    const bool hasEnded = quietly([&] { mesh = bodyMesh(file, {0, 0, 0}, {0, 0, 0}, 0); }).hasEnded;
     const hullReport checked = checkHull(file, {});
     check(checked.hasPanels == (!hasEnded && !mesh.faces.empty()));
     check(checked.hasPanels || checked.result.count(severity::error) > 0);

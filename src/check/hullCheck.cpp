@@ -121,6 +121,8 @@ void addHydrostaticFacts(const hydrostatics& h, report& result) {
 void addSizeFacts(const panelSizes& sizes, const hullOptions& options, report& result) {
     result.addFact("longestEdge", "Longest wetted edge", sizes.longestEdge, "m");
     result.addFact("smallestArea", "Smallest wetted panel", sizes.smallestArea, "m2");
+    result.addFact("cut.area", "", sizes.area, "m2");
+    result.addFact("cut.volume", "", sizes.volume, "m3");
     result.addFact("worstAspect", "Worst aspect ratio", sizes.worstAspect);
     if (options.w1) {
         const double length = waveLength(*options.w1, options.gravity, options.depth);
@@ -153,7 +155,7 @@ void examine(bodyMesh& mesh, const meshFileFacts& facts, const hullOptions& opti
     const hullTopology topology = topologyBelow(mesh.faces, options.level);
     examinedHull hull = {mesh, facts, options, checked.values, topology, {}, {}};
     setBox(mesh.faces, hull);
-    const panelSizes sizes = sizesOf(mesh.wetFaces);
+    const panelSizes sizes = sizesOf(mesh.wetFaces, options.level);
     addMeshFacts(hull, result);
     addHydrostaticFacts(checked.values, result);
     addSizeFacts(sizes, options, result);
@@ -161,7 +163,7 @@ void examine(bodyMesh& mesh, const meshFileFacts& facts, const hullOptions& opti
         return;
     }
     addEdgeFindings(hull, result);
-    addPanelFindings(hull, result);
+    addPanelFindings(hull, sizes, result);
     addShapeFindings(hull, sizes, result);
 }
 

@@ -233,7 +233,7 @@ void addPlaceInWater(const examinedHull& hull, report& result) {
 
 } // namespace
 
-panelSizes sizesOf(const std::vector<triangle*>& panels) {
+panelSizes sizesOf(const std::vector<triangle*>& panels, double level) {
     panelSizes sizes;
     sizes.smallestArea = panels.empty() ? 0 : HUGE_VAL;
     for (const triangle* panel : panels) {
@@ -244,6 +244,10 @@ panelSizes sizesOf(const std::vector<triangle*>& panels) {
         sizes.smallestArea = std::min(sizes.smallestArea, area);
         if (area >= noArea) {
             sizes.worstAspect = std::max(sizes.worstAspect, edge * edge / (2 * area));
+        }
+        if (isFinite(t) && !isLid(t, level)) {
+            sizes.area += area;
+            sizes.volume += areaVector(t)[2] * (centreOf(t)[2] - level);
         }
     }
     return sizes;
@@ -272,7 +276,7 @@ void addEdgeFindings(const examinedHull& hull, report& result) {
     addSymmetryPlane(hull, result);
 }
 
-void addPanelFindings(const examinedHull& hull, report& result) {
+void addPanelFindings(const examinedHull& hull, const panelSizes& sizes, report& result) {
     panelPlaces found;
     const auto& faces = hull.mesh.faces;
     for (std::size_t i = 0; i < faces.size(); ++i) {
@@ -289,7 +293,9 @@ void addPanelFindings(const examinedHull& hull, report& result) {
     addIfAny(result, "tiny-panel", "Wetted panels are smaller than 1e-7 m2.",
              std::move(found.tiny));
     addIfAny(result, "dropped-panels",
-             "The cut drops panels with " + numberText(found.droppedArea) + " m2 below the level.",
+             "The cut drops panels with " + numberText(found.droppedArea) +
+                 " m2 below the level. Its volume is " + numberText(sizes.volume) +
+                 " m3, that of the hull " + numberText(hull.values.volume[2]) + " m3.",
              std::move(found.dropped));
     addIfAny(result, "nodes-near-level", "Corners lie above the level by less than 1e-4 m.",
              std::move(found.nearLevel));

@@ -244,6 +244,22 @@ TEST_F(hullCheck, findsWhatTheReadersLeaveOut) {
     EXPECT_THROW(checkHull(folder_.path(), options_), cannotCheck);
 }
 
+TEST_F(hullCheck, comparesTheCutWithTheHull) {
+    options_.level = 0.4;
+    const report exact = check(box()).result;
+    options_.level = 5e-5; // the panels above z = 0 are dropped
+    const report dropped = check(box()).result;
+    const auto fact = [](const report& result, const std::string& name) {
+        const auto& facts = result.facts;
+        return std::get<double>(std::find_if(facts.begin(), facts.end(), [&](const auto& each) {
+                                    return each.name == name;
+                                })->value);
+    };
+    EXPECT_NEAR(fact(exact, "cut.volume"), fact(exact, "volume.z"), 1e-4);
+    EXPECT_NEAR(fact(exact, "cut.area"), fact(exact, "wettedArea"), 1e-4);
+    EXPECT_NEAR(fact(dropped, "wettedArea") - fact(dropped, "cut.area"), 24 * 5e-5, 1e-5);
+}
+
 TEST_F(hullCheck, comparesWithOptions) {
     options_.mass = 70000;
     options_.w1 = 3;

@@ -6,6 +6,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <iostream>
 #include <new>
 
@@ -52,6 +53,10 @@ void show(const request& asked, const report& result) {
 }
 
 int run(const request& asked) {
+    std::error_code ignored;
+    if (std::filesystem::equivalent(asked.subject, asked.jsonFile, ignored)) {
+        throw cannotCheck("--json names " + asked.subject + " itself. Give another file.");
+    }
     const report result = asked.check();
     show(asked, result);
     const bool isBad = result.count(severity::error) > 0 ||

@@ -34,4 +34,14 @@ set(SORVIK_PUBLIC_HEADERS
   waves/waveModel.hpp
   waves/waveTrain.hpp
   nemoh/nemohIO.hpp
-  nemoh/setNemohCase.hpp)
+  nemoh/setNemohCase.hpp
+  check/finding.hpp
+  check/hullCheck.hpp
+  check/hydrostatics.hpp
+  check/inputFileCheck.hpp
+  check/point3.hpp
+  check/projectCheck.hpp
+  check/resultTables.hpp
+  check/resultsCheck.hpp
+  check/seaCheck.hpp
+  check/textReport.hpp)

@@ -20,10 +20,10 @@ std::string_view nameOf(severity level);
 
 /// Where something was found. Members that do not apply keep their defaults.
 struct location {
-    std::string file = {};
-    int line = 0;         ///< from 1
-    std::string key = {}; ///< of an input file
-    int panel = 0;        ///< from 1, in the order of the mesh as read
+    std::string file = {}; ///< where it is not the one that is checked
+    int line = 0;          ///< from 1
+    std::string key = {};  ///< of an input file
+    int panel = 0;         ///< from 1, in the order of the mesh as read
     /// Whether `point` applies.
     bool hasPoint = false;
     std::array<double, 3> point = {}; ///< x, y, z [m], of the moved mesh
@@ -36,29 +36,31 @@ struct location {
 
 /// One kind of fault in the input, with all places that have it.
 struct finding {
-    severity level = severity::note;
-    std::string name;    ///< one of `findingKinds`, such as "open-edges"
-    std::string message; ///< what was found
-    std::string cure;    ///< what to do
-    std::size_t count = 1;
-    std::vector<location> where;
+    severity level = severity::note; ///< how grave it is
+    std::string name;                ///< one of `findingKinds`, such as "open-edges"
+    std::string message;             ///< what was found
+    std::string cure;                ///< what to do
+    std::size_t count = 1;           ///< of faults
+    std::vector<location> where;     ///< all places, as far as they are known
 };
 
 /// One property of the input.
 struct fact {
+    /// A number, a text or a list of numbers.
     using values = std::variant<double, long long, std::string, std::vector<double>>;
 
     std::string name;  ///< in JSON
     std::string label; ///< in the text report, which leaves out a fact without one
-    values value;
-    std::string unit; ///< such as "m", or empty
+    values value;      ///< in `unit`
+    std::string unit;  ///< such as "m", or empty
 };
 
 /// The outcome of a check.
 struct report {
-    std::vector<fact> facts;
-    std::vector<finding> findings;
+    std::vector<fact> facts;       ///< in the order of the text report
+    std::vector<finding> findings; ///< in the order of the checks
 
+    /// Appends a fact.
     void addFact(std::string name, std::string label, fact::values value, std::string unit = "");
 
     /// Adds a finding of the kind `name`, which gives its severity and cure, and counts `where`, or
@@ -73,8 +75,8 @@ struct report {
 
 /// What is known of a kind of finding before any input is read.
 struct findingKind {
-    std::string_view name;
-    severity level;
+    std::string_view name;  ///< in lower case, with hyphens
+    severity level;         ///< of the usual case
     std::string_view cause; ///< a sentence: what is wrong, and what follows from it
     std::string_view cure;  ///< a sentence: what to do
 };

@@ -2,6 +2,7 @@
 
 #include "base/files.hpp"
 #include "check/hullFindings.hpp"
+#include "check/hullSurface.hpp"
 #include "check/quietly.hpp"
 
 #include <algorithm>

@@ -21,7 +21,7 @@ struct hullOptions : hydrostaticOptions {
 
 /// What a check of a hull gives.
 struct hullReport {
-    report result;
+    report result; ///< facts and findings
     /// Whether there are panels, to which the rest applies.
     bool hasPanels = false;
     hydrostatics values;

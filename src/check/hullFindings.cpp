@@ -1,6 +1,7 @@
 #include "check/hullFindings.hpp"
 
 #include "base/numberText.hpp"
+#include "check/hullSurface.hpp"
 #include "mesh/waterline.hpp"
 #include "waves/waveTrain.hpp"
 

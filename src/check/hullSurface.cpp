@@ -18,6 +18,9 @@ point3 crossing(const point3& a, const point3& b, double level) {
     return {low[0] + t * (high[0] - low[0]), low[1] + t * (high[1] - low[1]), level};
 }
 
+/// Panels within this distance of the level [m] lie in it.
+constexpr double lidTolerance = 1e-4;
+
 /// The mean over a triangle of the coordinate `u`, and of the product of two coordinates.
 double mean(const corners3& t, std::size_t u) {
     return (t[0][u] + t[1][u] + t[2][u]) / 3;
@@ -62,6 +65,12 @@ double longestEdge(const corners3& t) {
 bool isFinite(const corners3& t) {
     return std::all_of(t.begin(), t.end(), [](const point3& p) {
         return std::isfinite(p[0]) && std::isfinite(p[1]) && std::isfinite(p[2]);
+    });
+}
+
+bool isLid(const corners3& panel, double level) {
+    return std::all_of(panel.begin(), panel.end(), [&](const point3& corner) {
+        return std::abs(corner[2] - level) <= lidTolerance;
     });
 }
 

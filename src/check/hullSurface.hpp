@@ -1,5 +1,6 @@
 #pragma once
 
+#include "check/point3.hpp"
 #include "mesh/triangle.hpp"
 
 #include <array>
@@ -7,8 +8,6 @@
 
 /// Panels in double precision, and integrals over them.
 namespace sorvik {
-
-using point3 = std::array<double, 3>; ///< x, y, z [m]
 
 /// The corners of a flat triangle in the order of its orientation.
 using corners3 = std::array<point3, 3>;
@@ -26,6 +25,9 @@ point3 areaVector(const corners3& t);
 double longestEdge(const corners3& t);
 /// Whether all coordinates are numbers.
 bool isFinite(const corners3& t);
+
+/// Whether a panel lies in the water plane: it closes the hull, and belongs to no sum.
+bool isLid(const corners3& panel, double level);
 
 /// The part of a triangle at or below z = `level`, as none to two triangles of its orientation.
 struct clippedTriangle {

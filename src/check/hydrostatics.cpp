@@ -1,14 +1,13 @@
 #include "check/hydrostatics.hpp"
 
+#include "check/hullSurface.hpp"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
 
 namespace sorvik {
 namespace {
-
-/// Panels within this distance of the level [m] lie in it.
-constexpr double lidTolerance = 1e-4;
 
 struct wetSums {
     surfaceSums sums; ///< relative to `zero`
@@ -108,12 +107,6 @@ std::array<double, 36> stiffnessOf(const hydrostatics& h, const hydrostaticOptio
 }
 
 } // namespace
-
-bool isLid(const corners3& panel, double level) {
-    return std::all_of(panel.begin(), panel.end(), [&](const point3& corner) {
-        return std::abs(corner[2] - level) <= lidTolerance;
-    });
-}
 
 hydrostatics computeHydrostatics(const std::vector<triangle>& panels,
                                  const hydrostaticOptions& options) {

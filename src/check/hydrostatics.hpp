@@ -1,6 +1,7 @@
 #pragma once
 
-#include "check/hullSurface.hpp"
+#include "check/point3.hpp"
+#include "mesh/triangle.hpp"
 
 #include <array>
 #include <optional>
@@ -20,16 +21,16 @@ struct hydrostaticOptions {
 
 /// The hydrostatics of the part of a hull below the level, cut exactly.
 struct hydrostatics {
-    double wettedArea = 0;  ///< m²
-    point3 volume = {};     ///< from the x, y and z components of the normals [m³]
-    point3 buoyancy = {};   ///< centre of buoyancy
-    double waterplane = 0;  ///< area of the waterplane [m²]
-    double waterplaneX = 0; ///< its centre
-    double waterplaneY = 0;
-    double Ixx = 0; ///< integral of y² over the waterplane about its centre [m⁴]
-    double Iyy = 0; ///< of x²
-    double Ixy = 0; ///< of x y
-    double draught = 0;
+    double wettedArea = 0;   ///< m²
+    point3 volume = {};      ///< from the x, y and z components of the normals [m³]
+    point3 buoyancy = {};    ///< centre of buoyancy
+    double waterplane = 0;   ///< area of the waterplane [m²]
+    double waterplaneX = 0;  ///< its centre
+    double waterplaneY = 0;  ///< its centre
+    double Ixx = 0;          ///< integral of y² over the waterplane about its centre [m⁴]
+    double Iyy = 0;          ///< of x²
+    double Ixy = 0;          ///< of x y
+    double draught = 0;      ///< depth of the lowest point [m]
     double displacement = 0; ///< kg
     double mass = 0;         ///< kg, as given or displaced
     double GMt = 0;          ///< transverse metacentric height [m]
@@ -38,9 +39,6 @@ struct hydrostatics {
     /// [N/m, N, N m].
     std::array<double, 36> stiffness = {};
 };
-
-/// Whether a panel lies in the water plane: it closes the hull, and belongs to no sum.
-bool isLid(const corners3& panel, double level);
 
 /// Sums over the panels, whose normals point outwards. Panels with corners that are not finite are
 /// left out; so are those of a lid.

@@ -12,7 +12,7 @@ enum class inputTask { both, nemoh, wave };
 
 /// What `checkInput` goes by.
 struct inputOptions {
-    inputTask task = inputTask::both;
+    inputTask task = inputTask::both; ///< the task that the file is for
     /// Where the wave task writes; named after the input file without it.
     std::optional<std::string> outputFolder;
     double probes = 1; ///< of the wave task

@@ -10,7 +10,9 @@ struct resultDof {
     int body = 1;   ///< from 1
     int number = 1; ///< 1 to 6: surge, sway, heave, roll, pitch, yaw
 
+    /// Whether it is roll, pitch or yaw.
     bool isRotation() const { return number > 3; }
+    /// Whether both are the same.
     bool operator==(const resultDof& other) const {
         return body == other.body && number == other.number;
     }
@@ -18,12 +20,12 @@ struct resultDof {
 
 /// Results of Nemoh in SI units. What was not read is empty.
 struct nemohResults {
-    std::vector<double> omegas; ///< rad/s
-    std::vector<double> angles; ///< wave directions [degrees]
-    std::vector<resultDof> motions;
-    std::vector<resultDof> forces;
-    std::vector<double> addedMass; ///< (motion, force, frequency), the last varies fastest
-    std::vector<double> damping;
+    std::vector<double> omegas;     ///< rad/s
+    std::vector<double> angles;     ///< wave directions [degrees]
+    std::vector<resultDof> motions; ///< of all bodies
+    std::vector<resultDof> forces;  ///< of all bodies
+    std::vector<double> addedMass;  ///< (motion, force, frequency), the last varies fastest
+    std::vector<double> damping;    ///< the same
     std::vector<double> amplitudes; ///< of excitation: (direction, force, frequency)
     std::vector<double> phases;     ///< rad
     std::vector<double> stiffness;  ///< hydrostatic, 6 x 6 by rows

@@ -7,9 +7,10 @@
 
 namespace sorvik {
 
+/// What a check of results gives.
 struct resultsReport {
-    report result;
-    nemohResults values;
+    report result;       ///< facts and findings
+    nemohResults values; ///< as they were read
 };
 
 /// Checks the results that Nemoh left in a project folder, against Nemoh.cal and for what no sound

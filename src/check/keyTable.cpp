@@ -213,8 +213,8 @@ const inputKey* findKey(std::string_view name) {
 }
 
 std::string manualRow(const inputKey& key, std::string_view former) {
-    const auto cell = [](const std::string& text) {
-        return text.empty() ? " |" : " " + text + " |";
+    const auto cell = [](const std::string& value) {
+        return value.empty() ? " |" : " " + value + " |";
     };
     const std::string range = key.range.text();
     std::string type(nameOf(key.type));

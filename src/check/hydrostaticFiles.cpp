@@ -19,7 +19,7 @@ std::string exponentText(double value) {
     char digits[40];
     const auto end = std::to_chars(digits, digits + sizeof digits, value < 0 ? -value : value,
                                    std::chars_format::scientific, 6);
-    const std::string text(digits, end.ptr); // d.dddddde+xx
+    std::string text(digits, end.ptr); // d.dddddde+xx
     if (text.find('e') == text.npos) {
         return text; // not finite
     }

@@ -11,6 +11,12 @@ std::string numberText(double value);
 /// classic locale: what follows the number is ignored, white space before it too.
 double leadingNumber(const char* text);
 
+/// `value` without its fraction, 0 for NaN and from 1e15 on, where it would be no count of
+/// anything.
+constexpr long long wholeNumber(double value) {
+    return value > -1e15 && value < 1e15 ? static_cast<long long>(value) : 0;
+}
+
 /// Whether `c` is one of 0 to 9, or a letter of ASCII, whatever the locale.
 constexpr bool isDigit(char c) {
     return c >= '0' && c <= '9';

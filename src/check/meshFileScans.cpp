@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <istream>
+#include <limits>
 #include <string>
 #include <string_view>
 
@@ -58,6 +59,12 @@ std::string percent(double share) {
     return std::to_string(std::lround(100 * share)) + " %";
 }
 
+/// A node number as the reader takes it, -1 for one beyond all nodes.
+int nodeNumber(std::string_view word) {
+    const long long number = wholeNumber(leadingNumber(std::string(word).c_str()));
+    return number > -1 && number < std::numeric_limits<int>::max() ? static_cast<int>(number) : -1;
+}
+
 /// The panel lines of a Nemoh mesh, as its reader numbers the nodes.
 class nemohPanelScan {
 public:
@@ -69,7 +76,7 @@ public:
         int corners[4] = {};
         bool isKnown = true;
         for (int& corner : corners) {
-            corner = static_cast<int>(leadingNumber(std::string(takeWord(line)).c_str()));
+            corner = nodeNumber(takeWord(line));
             isKnown = isKnown && corner >= 1 && corner <= lastNode_;
         }
         if (corners[0] == 0) {
@@ -99,11 +106,11 @@ int readNodeLines(std::istream& in, int& number, report& result) {
     while (std::getline(in, text)) {
         ++number;
         std::string_view line = text;
-        const double node = leadingNumber(std::string(takeWord(line)).c_str());
-        if (!(node >= 1)) {
+        const int node = nodeNumber(takeWord(line));
+        if (node < 1) {
             break;
         }
-        highest = std::max(highest, static_cast<int>(std::min(node, 2e9)));
+        highest = std::max(highest, node);
     }
     std::string_view end = text;
     int numbers = 0;

@@ -127,8 +127,8 @@ calBody readBody(calRecords& records) {
     readMeshName(records, body);
     const std::vector<double> counts =
         records.numbers(2, 2, "the numbers of nodes and panels of the mesh");
-    body.nodes = static_cast<long long>(counts[0]);
-    body.panels = static_cast<long long>(counts[1]);
+    body.nodes = wholeNumber(counts[0]);
+    body.panels = wholeNumber(counts[1]);
     body.countsLine = records.line();
     body.motions = readDofs(records, "the number of motions",
                             "type, direction and point of a motion as seven numbers");

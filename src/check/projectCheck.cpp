@@ -17,7 +17,7 @@ std::string range(double from, double to, const std::string& unit) {
 
 void addCaseFacts(const nemohCal& cal, report& result) {
     const bool isDeep = cal.depth.value == 0;
-    const auto whole = [](const calNumber& number) { return static_cast<long long>(number.value); };
+    const auto whole = [](const calNumber& number) { return wholeNumber(number.value); };
     const std::string unit = cal.mode.value == 2 ? "Hz" : cal.mode.value == 3 ? "s" : "rad/s";
     result.addFact("density", "Density", cal.density.value, "kg/m3");
     result.addFact("gravity", "Gravity", cal.gravity.value, "m/s2");
@@ -46,7 +46,7 @@ void addCostFacts(const nemohCal& cal, report& result) {
     }
     const double matrix = panels * panels;
     const double work = cal.frequencies.value * matrix * (8.0 / 3 * panels + 8 * problems);
-    result.addFact("problems", "", static_cast<long long>(problems * cal.frequencies.value));
+    result.addFact("problems", "", wholeNumber(problems * cal.frequencies.value));
     result.addFact("memory", "Solver's matrix", 16 * matrix / 1e6, "MB");
     result.addFact("time", "Solver's time, at least", work / 1e9, "s at 1 Gflop/s");
 }

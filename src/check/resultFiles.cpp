@@ -5,6 +5,7 @@
 #include "check/quietly.hpp"
 #include "nemoh/nemohIO.hpp"
 
+#include <algorithm>
 #include <cstring>
 #include <fstream>
 #include <utility>
@@ -24,8 +25,7 @@ struct resultShape {
 /// The number after "I=" in the line that begins a zone.
 long long pointsOf(const std::string& zone) {
     const std::size_t mark = zone.find("I=");
-    const double number = mark == zone.npos ? 0 : leadingNumber(&zone[mark + 2]);
-    return number >= 1 && number < 1e15 ? static_cast<long long>(number) : 0;
+    return mark == zone.npos ? 0 : std::max(0LL, wholeNumber(leadingNumber(&zone[mark + 2])));
 }
 
 void scanLine(const std::string& text, int number, resultShape& shape) {

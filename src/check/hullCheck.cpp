@@ -125,7 +125,7 @@ void addSizeFacts(const panelSizes& sizes, const hullOptions& options, report& r
     result.addFact("cut.area", "", sizes.area, "m2");
     result.addFact("cut.volume", "", sizes.volume, "m3");
     result.addFact("worstAspect", "Worst aspect ratio", sizes.worstAspect);
-    if (options.w1) {
+    if (options.w1 && sizes.longestEdge > 0) {
         const double length = waveLength(*options.w1, options.gravity, options.depth);
         result.addFact("panelsPerWave", "Panels per wave at --w1", length / sizes.longestEdge);
     }

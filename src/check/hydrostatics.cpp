@@ -52,6 +52,11 @@ wetSums sumBelow(const std::vector<triangle>& panels, double level) {
     return wet;
 }
 
+/// a / b; not a number where there is nothing to divide by.
+double quotient(double a, double b) {
+    return b == 0 ? std::numeric_limits<double>::quiet_NaN() : a / b;
+}
+
 /// Sets volume, buoyancy and waterplane, in the coordinates of the mesh.
 void setShape(const wetSums& wet, hydrostatics& h) {
     const surfaceSums& s = wet.sums;
@@ -59,7 +64,7 @@ void setShape(const wetSums& wet, hydrostatics& h) {
     h.volume = s.volume;
     h.draught = std::isfinite(wet.lowest) ? -wet.lowest : 0;
     for (std::size_t i = 0; i < 3; ++i) {
-        h.buoyancy[i] = s.volumeMoment[i] / s.volume[2] + wet.zero[i];
+        h.buoyancy[i] = quotient(s.volumeMoment[i], s.volume[2]) + wet.zero[i];
     }
     h.waterplane = s.waterplane;
     const bool isCut = std::abs(s.waterplane) > 1e-9 * s.area;
@@ -116,8 +121,8 @@ hydrostatics computeHydrostatics(const std::vector<triangle>& panels,
     h.displacement = options.density * V;
     h.mass = options.mass.value_or(h.displacement);
     const double BG = h.buoyancy[2] - options.cog[2];
-    h.GMt = BG + h.Ixx / V;
-    h.GMl = BG + h.Iyy / V;
+    h.GMt = BG + quotient(h.Ixx, V);
+    h.GMl = BG + quotient(h.Iyy, V);
     h.stiffness = stiffnessOf(h, options);
     return h;
 }

@@ -1,3 +1,4 @@
+#include "base/littleEndian.hpp"
 #include "check/hullCheck.hpp"
 #include "check/quietly.hpp"
 #include "mesh/bodyMesh.hpp"
@@ -10,6 +11,11 @@ using namespace sorvik;
 void tryText(const std::string& text) {
     const char* const endings[] = {".stl", ".gdf", ".dat"};
     const std::size_t ending = text.empty() ? 0 : static_cast<unsigned char>(text[0]) % 3;
+    // A binary STL file is believed where memory can hold its count: that only takes time.
+    const std::string head = text.substr(0, 85) + std::string(85, '\0');
+    if (ending == 0 && littleEndian::load<std::uint32_t>(head.data() + 81) > 5000) {
+        return;
+    }
     const std::string file =
         fileOf(std::string("hull") + endings[ending], text.substr(text.empty() ? 0 : 1));
     bodyMesh mesh;

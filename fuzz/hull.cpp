@@ -2,6 +2,7 @@
 #include "check/hullCheck.hpp"
 #include "check/quietly.hpp"
 #include "mesh/bodyMesh.hpp"
+#include "mesh/stlFormat.hpp"
 #include "target.hpp"
 
 using namespace sorvik;
@@ -12,12 +13,14 @@ void tryText(const std::string& text) {
     const char* const endings[] = {".stl", ".gdf", ".dat"};
     const std::size_t ending = text.empty() ? 0 : static_cast<unsigned char>(text[0]) % 3;
     // A binary STL file is believed where memory can hold its count: that only takes time.
-    const std::string head = text.substr(0, 85) + std::string(85, '\0');
-    if (ending == 0 && littleEndian::load<std::uint32_t>(head.data() + 81) > 5000) {
+    const std::string content = text.substr(text.empty() ? 0 : 1);
+    const std::string head = content.substr(0, 84) + std::string(84, '\0');
+    std::istringstream in(content);
+    if (ending == 0 && stl::isBinary(in) &&
+        littleEndian::load<std::uint32_t>(head.data() + 80) > 5000) {
         return;
     }
-    const std::string file =
-        fileOf(std::string("hull") + endings[ending], text.substr(text.empty() ? 0 : 1));
+    const std::string file = fileOf(std::string("hull") + endings[ending], content);
     bodyMesh mesh;
     const bool hasEnded = quietly([&] { mesh = bodyMesh(file, {0, 0, 0}, {0, 0, 0}, 0); }).hasEnded;
     const hullReport checked = checkHull(file, {});

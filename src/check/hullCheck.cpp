@@ -65,20 +65,6 @@ void removeNemohEnd(bodyMesh& mesh, bool isMirrored, const hullOptions& options)
     quietly([&] { mesh.updateWetSurface(options.level); });
 }
 
-void setBox(const std::vector<triangle>& panels, examinedHull& hull) {
-    hull.low.fill(HUGE_VAL);
-    hull.high.fill(-HUGE_VAL);
-    for (const triangle& panel : panels) {
-        const corners3 t = cornersOf(panel);
-        for (std::size_t corner = 0; corner < 3 && isFinite(t); ++corner) {
-            for (std::size_t i = 0; i < 3; ++i) {
-                hull.low[i] = std::min(hull.low[i], t[corner][i]);
-                hull.high[i] = std::max(hull.high[i], t[corner][i]);
-            }
-        }
-    }
-}
-
 std::vector<double> listOf(const point3& p) {
     return {p.begin(), p.end()};
 }
@@ -154,8 +140,8 @@ void examine(bodyMesh& mesh, const meshFileFacts& facts, const hullOptions& opti
     checked.values = computeHydrostatics(mesh.faces, options);
     checked.wettedPanels = mesh.wetFaces.size();
     const hullTopology topology = topologyBelow(mesh.faces, options.level);
-    examinedHull hull = {mesh, facts, options, checked.values, topology, {}, {}};
-    setBox(mesh.faces, hull);
+    const auto [low, high] = boxAround(mesh.faces);
+    const examinedHull hull = {mesh, facts, options, checked.values, topology, low, high};
     const panelSizes sizes = sizesOf(mesh.wetFaces, options.level);
     addMeshFacts(hull, result);
     addHydrostaticFacts(checked.values, result);

@@ -74,6 +74,20 @@ bool isLid(const corners3& panel, double level) {
     });
 }
 
+box boxAround(const std::vector<triangle>& panels) {
+    box around = {{HUGE_VAL, HUGE_VAL, HUGE_VAL}, {-HUGE_VAL, -HUGE_VAL, -HUGE_VAL}};
+    for (const triangle& panel : panels) {
+        const corners3 t = cornersOf(panel);
+        for (std::size_t corner = 0; corner < 3 && isFinite(t); ++corner) {
+            for (std::size_t i = 0; i < 3; ++i) {
+                around.low[i] = std::min(around.low[i], t[corner][i]);
+                around.high[i] = std::max(around.high[i], t[corner][i]);
+            }
+        }
+    }
+    return around;
+}
+
 clippedTriangle clipBelow(const corners3& t, double level) {
     std::array<point3, 4> polygon;
     std::size_t count = 0;

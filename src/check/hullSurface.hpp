@@ -23,6 +23,12 @@ point3 centreOf(const corners3& t);
 /// Area times normal, by the right-hand rule [m²].
 point3 areaVector(const corners3& t);
 double longestEdge(const corners3& t);
+/// The box around the panels whose corners are finite; low is above high where there are none.
+struct box {
+    point3 low;
+    point3 high;
+};
+box boxAround(const std::vector<triangle>& panels);
 /// Whether all coordinates are numbers.
 bool isFinite(const corners3& t);
 

@@ -18,17 +18,7 @@ struct wetSums {
 /// The middle of the panels' box at the height of the level: sums about it lose no digits to a hull
 /// that lies far from the origin.
 point3 middleOf(const std::vector<triangle>& panels, double level) {
-    point3 low = {HUGE_VAL, HUGE_VAL, 0};
-    point3 high = {-HUGE_VAL, -HUGE_VAL, 0};
-    for (const triangle& panel : panels) {
-        const corners3 t = cornersOf(panel);
-        for (std::size_t corner = 0; corner < 3 && isFinite(t); ++corner) {
-            for (std::size_t i = 0; i < 2; ++i) {
-                low[i] = std::min(low[i], t[corner][i]);
-                high[i] = std::max(high[i], t[corner][i]);
-            }
-        }
-    }
+    const auto [low, high] = boxAround(panels);
     return {(low[0] + high[0]) / 2, (low[1] + high[1]) / 2, level};
 }
 

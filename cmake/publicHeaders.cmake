@@ -37,6 +37,7 @@ set(SORVIK_PUBLIC_HEADERS
   nemoh/setNemohCase.hpp
   check/finding.hpp
   check/hullCheck.hpp
+  check/hullTopology.hpp
   check/hydrostatics.hpp
   check/inputFileCheck.hpp
   check/point3.hpp

@@ -130,18 +130,17 @@ std::string readHull(const std::string& file, const hullOptions& options, bodyMe
                                 : "";
 }
 
-/// Adds facts and findings on a mesh, and sets the hydrostatics.
-void examine(bodyMesh& mesh, const meshFileFacts& facts, const hullOptions& options,
-             hullReport& checked) {
+/// Adds facts and findings on the mesh, and sets what follows from it.
+void examine(const meshFileFacts& facts, const hullOptions& options, hullReport& checked) {
     report& result = checked.result;
+    bodyMesh& mesh = checked.mesh;
     if (facts.format == "Nemoh") {
         removeNemohEnd(mesh, facts.isMirroredY, options);
     }
     checked.values = computeHydrostatics(mesh.faces, options);
-    checked.wettedPanels = mesh.wetFaces.size();
-    const hullTopology topology = topologyBelow(mesh.faces, options.level);
+    checked.topology = topologyBelow(mesh.faces, options.level);
     const auto [low, high] = boxAround(mesh.faces);
-    const examinedHull hull = {mesh, facts, options, checked.values, topology, low, high};
+    const examinedHull hull = {mesh, facts, options, checked.values, checked.topology, low, high};
     const panelSizes sizes = sizesOf(mesh.wetFaces, options.level);
     addMeshFacts(hull, result);
     addHydrostaticFacts(checked.values, result);
@@ -160,11 +159,10 @@ hullReport checkHull(const std::string& file, const hullOptions& options) {
     requireUsable(file, options);
     hullReport checked;
     report& result = checked.result;
-    bodyMesh mesh;
-    const std::string failure = readHull(file, options, mesh);
+    const std::string failure = readHull(file, options, checked.mesh);
     checked.hasPanels = failure.empty();
     const meshFileFacts facts =
-        inspectMeshFile(file, static_cast<long long>(mesh.faces.size()), result);
+        inspectMeshFile(file, static_cast<long long>(checked.mesh.faces.size()), result);
     if (!checked.hasPanels) {
         result.addFact("format", "Format", facts.format);
         if (result.findings.empty()) {
@@ -172,7 +170,7 @@ hullReport checkHull(const std::string& file, const hullOptions& options) {
         }
         return checked;
     }
-    examine(mesh, facts, options, checked);
+    examine(facts, options, checked);
     return checked;
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "check/finding.hpp"
+#include "check/hullTopology.hpp"
 #include "check/hydrostatics.hpp"
+#include "mesh/bodyMesh.hpp"
 
 #include <array>
 #include <optional>
@@ -24,8 +26,9 @@ struct hullReport {
     report result; ///< facts and findings
     /// Whether there are panels, to which the rest applies.
     bool hasPanels = false;
+    bodyMesh mesh;         ///< as it was read, moved, and cut at the level
+    hullTopology topology; ///< of the panels below the level
     hydrostatics values;
-    std::size_t wettedPanels = 0; ///< as `sorvikPre` cuts the mesh
 };
 
 /// Checks a mesh file: what was read of it, its shape, its hydrostatics at the level, and its

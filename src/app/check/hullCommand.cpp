@@ -19,7 +19,7 @@ report runHull(const std::string& mesh, const hullRequest& wanted) {
     hullReport checked = checkHull(mesh, wanted.options);
     if (!wanted.folder.empty() && checked.hasPanels) {
         const std::string name = std::filesystem::path(mesh).filename().string();
-        hydrostaticFiles files = {wanted.options.cog, name, checked.wettedPanels, {}};
+        hydrostaticFiles files = {wanted.options.cog, name, checked.mesh.wetFaces.size(), {}};
         if (const std::vector<double>& k = wanted.gyration; !k.empty()) {
             files.gyration = {k[0], k[1], k[2]};
         }

@@ -31,7 +31,7 @@ std::string tuple(const double* values, std::size_t count) {
     return text + ")";
 }
 
-struct valueText {
+struct textOfValue {
     std::string operator()(double value) const { return numberOf(value); }
     std::string operator()(long long value) const { return std::to_string(value); }
     std::string operator()(const std::string& value) const { return value; }
@@ -66,8 +66,7 @@ void writeFacts(std::ostream& out, const std::vector<fact>& facts) {
     for (const fact& each : facts) {
         if (!each.label.empty()) {
             out << "  " << each.label << std::string(width + 2 - each.label.size(), ' ')
-                << std::visit(valueText(), each.value) << (each.unit.empty() ? "" : " ")
-                << each.unit << '\n';
+                << valueText(each) << '\n';
         }
     }
 }
@@ -106,6 +105,10 @@ std::string counted(std::size_t count, const std::string& noun) {
 }
 
 } // namespace
+
+std::string valueText(const fact& shown) {
+    return std::visit(textOfValue(), shown.value) + (shown.unit.empty() ? "" : " ") + shown.unit;
+}
 
 std::string placeText(const location& place) {
     std::string text = place.file;

@@ -14,8 +14,13 @@ struct viewedHull {
     hullReport hull;
 };
 
-/// The page of hulls in the water: a scene that its script draws from the numbers, and beside it
-/// the facts and findings of each.
+/// The body of a page that shows hulls: a stage, which its script draws from the numbers that this
+/// appends, and the facts and findings of each hull. `headings` are directions of waves [degrees],
+/// drawn as arrows around the hulls.
+std::string hullBody(const std::vector<viewedHull>& hulls, double level,
+                     const std::vector<double>& headings, std::vector<pageNumbers>& numbers);
+
+/// The page of hulls in the water.
 pageContent hullPage(const std::vector<viewedHull>& hulls, double level);
 
 } // namespace sorvik

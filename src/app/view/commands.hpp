@@ -1,0 +1,43 @@
+#pragma once
+
+#include "view/page.hpp"
+
+#include <CLI/CLI.hpp>
+
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace sorvik {
+
+/// What the command line asks for. The command that was given fills it.
+struct viewRequest {
+    std::string pageFile;             ///< where the page goes, or ""
+    std::string vtkFolder;            ///< where files for ParaView go, or ""
+    std::vector<std::string> sources; ///< what is read, which no page may replace
+    /// Makes the page, and writes what `vtkFolder` asks for; may throw `cannotView` or
+    /// `cannotCheck`.
+    std::function<pageContent()> make;
+};
+
+/// Thrown where a view cannot be made.
+struct cannotView : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+// Each adds its command with its options to the application; `asked` must outlive that.
+void addHullView(CLI::App& app, viewRequest& asked);
+
+/// A command in the help.
+struct viewText {
+    std::string name;
+    std::string description;
+};
+
+/// Adds a command with the options that all commands have. Where it is given, it sets `asked`,
+/// which is then to run `make`.
+CLI::App& addView(CLI::App& app, viewRequest& asked, const viewText& text,
+                  std::function<pageContent()> make);
+
+} // namespace sorvik

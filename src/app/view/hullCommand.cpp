@@ -1,0 +1,41 @@
+#include "app/view/commands.hpp"
+#include "check/hullCheck.hpp"
+#include "view/hullPage.hpp"
+
+#include <memory>
+
+namespace sorvik {
+namespace {
+
+struct hullViewRequest {
+    std::vector<std::string> meshes;
+    hullOptions options;
+};
+
+pageContent makeHullView(viewRequest& asked, const hullViewRequest& wanted) {
+    std::vector<viewedHull> hulls;
+    for (const std::string& mesh : wanted.meshes) {
+        hulls.push_back({mesh, checkHull(mesh, wanted.options)});
+    }
+    (void)asked;
+    return hullPage(hulls, wanted.options.level);
+}
+
+} // namespace
+
+void addHullView(CLI::App& app, viewRequest& asked) {
+    const auto wanted = std::make_shared<hullViewRequest>();
+    CLI::App& command =
+        addView(app, asked, {"hull", "Show meshes, the waterline and what sorvikCheck finds"},
+                [&asked, wanted] { return makeHullView(asked, *wanted); });
+    command.add_option("MESH", wanted->meshes, "Meshes: .stl, .gdf or Nemoh's .dat")->required();
+    command
+        .add_option("--origin", wanted->options.origin,
+                    "The meshes' point that becomes (0, 0, 0) [m]")
+        ->type_name("X Y Z");
+    command.add_option("--level", wanted->options.level, "Height of the water plane [m]")
+        ->type_name("Z")
+        ->capture_default_str();
+}
+
+} // namespace sorvik

@@ -1,0 +1,85 @@
+#include "app/view/assets.hpp"
+#include "app/view/commands.hpp"
+#include "base/files.hpp"
+#include "base/platform.hpp"
+#include "base/rewrite.hpp"
+
+#include <cstdio>
+#include <filesystem>
+#include <iostream>
+#include <new>
+
+namespace sorvik {
+
+CLI::App& addView(CLI::App& app, viewRequest& asked, const viewText& text,
+                  std::function<pageContent()> make) {
+    CLI::App& command = *app.add_subcommand(text.name, text.description);
+    command.add_option("-o,--output", asked.pageFile, "The page to write")->type_name("FILE.html");
+    command.add_option("--vtk", asked.vtkFolder, "Write files for ParaView into this folder")
+        ->type_name("FOLDER");
+    command.callback([&asked, make = std::move(make)] { asked.make = make; });
+    return command;
+}
+
+namespace {
+
+enum status { isMade = 0, cannotRun = 2 };
+
+void requireOutput(const viewRequest& asked) {
+    if (asked.pageFile.empty() && asked.vtkFolder.empty()) {
+        throw cannotView("Nothing to write. Give -o FILE.html, --vtk FOLDER or both.");
+    }
+    for (const std::string& source : asked.sources) {
+        std::error_code ignored;
+        if (std::filesystem::equivalent(source, asked.pageFile, ignored)) {
+            throw cannotView("-o names " + source + ", which is read. Give another file.");
+        }
+    }
+}
+
+void run(const viewRequest& asked) {
+    requireOutput(asked);
+    const pageContent content = asked.make();
+    if (asked.pageFile.empty()) {
+        return;
+    }
+    const pageAssets assets = {libraryScript(), pageStyle(), pageScript()};
+    const auto write = [&](std::ostream& out) { writePage(out, content, assets); };
+    if (!replace(asked.pageFile, write)) {
+        throw cannotView("Cannot write " + asked.pageFile +
+                         ". Give a file in a folder that can be written, with room for it.");
+    }
+    std::cout << "Wrote " << asked.pageFile << ". Open it in a browser." << std::endl;
+}
+
+int runCommandLine(int argc, const char** argv) {
+    viewRequest asked;
+    CLI::App app("Shows hulls, seas and Nemoh projects as pages for a browser and as files for "
+                 "ParaView.\nEnds with status 0, or 2 if it cannot show what was asked for.",
+                 "sorvikView");
+    app.set_version_flag("--version", "sorvikView " SORVIK_VERSION);
+    app.require_subcommand(1);
+    addHullView(app, asked);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error) == 0 ? isMade : cannotRun;
+    }
+    run(asked);
+    return isMade;
+}
+
+} // namespace
+} // namespace sorvik
+
+int main(int argc, const char** argv) {
+    sorvik::platform::holdStandardStreams();
+    try {
+        return sorvik::runCommandLine(argc, argv);
+    } catch (const std::bad_alloc&) {
+        std::fputs("sorvikView: There is not enough memory for this view.\n", stderr);
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "sorvikView: %s\n", error.what());
+    }
+    return sorvik::cannotRun;
+}

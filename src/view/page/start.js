@@ -1,1 +1,1 @@
-"use strict";
+({hull: showHulls, project: showHulls, sea: showSea})[document.body.dataset.kind]();

@@ -75,7 +75,7 @@ function makeStage(element, {low, high}) {
   const canvas = addElement(element, "canvas", {className: "view", tabIndex: 0});
   canvas.setAttribute("role", "img");
   canvas.setAttribute("aria-label", "Picture. Arrow keys turn it, with shift they move it, plus and minus zoom.");
-  const context = canvas.getContext("webgl", {alpha: true, antialias: true, preserveDrawingBuffer: true});
+  const context = canvas.getContext("webgl", {alpha: true, antialias: false, preserveDrawingBuffer: true});
   if (!context) {
     canvas.remove();
     addElement(element, "p", {textContent: "This browser cannot draw in three dimensions (WebGL). All else on this page can be read."});
@@ -116,7 +116,7 @@ function makeStage(element, {low, high}) {
   stage.draw = () => {
     if (!isAsked) {
       isAsked = true;
-      requestAnimationFrame(() => { isAsked = false; stage.drawNow(); });
+      requestAnimationFrame(() => { isAsked = false; drawMoving(); });
     }
   };
   const half = () => 1.2 * reach / camera.zoom;
@@ -132,7 +132,7 @@ function makeStage(element, {low, high}) {
     }
     renderer.render(scene, camera);
     const {width, height} = shape();
-    const ratio = renderer.getPixelRatio();
+    const ratio = fullRatio();
     paper.setTransform(ratio, 0, 0, ratio, 0, 0);
     paper.clearRect(0, 0, width, height);
     paper.font = "12px sans-serif";
@@ -141,12 +141,37 @@ function makeStage(element, {low, high}) {
       paint(paper, stage.project);
     }
   };
+  // Two pixels and more to one of the page smooth the edges, and can be spared where that is slow.
+  const fullRatio = () => Math.max(window.devicePixelRatio || 1, 2);
+  const resolve = ratio => {
+    if (renderer.getPixelRatio() !== ratio) {
+      renderer.setPixelRatio(ratio);
+    }
+  };
+  // Where drawing takes long, as without a graphics card, the picture is coarse while it moves.
+  const slow = 80; // ms
+  let isSlow = false;
+  let lastMove = 0;
+  let rest = 0;
+  const drawMoving = () => {
+    const begin = performance.now();
+    const isMoving = begin - lastMove < 3000;
+    lastMove = begin;
+    if (isSlow && isMoving) {
+      resolve(0.5);
+      clearTimeout(rest);
+      rest = setTimeout(() => { resolve(fullRatio()); stage.drawNow(); }, 300);
+    }
+    stage.drawNow();
+    context.readPixels(0, 0, 1, 1, context.RGBA, context.UNSIGNED_BYTE, new Uint8Array(4)); // waits for the picture
+    isSlow = isSlow || performance.now() - begin > slow;
+  };
   const fit = () => {
     const {width, height} = shape();
     const up = 1.2 * reach * Math.max(1, height / width);
     Object.assign(camera, {left: -up * width / height, right: up * width / height, top: up, bottom: -up});
     camera.updateProjectionMatrix();
-    renderer.setPixelRatio(Math.min(window.devicePixelRatio || 1, 2));
+    resolve(fullRatio());
     renderer.setSize(width, height, false);
     overlay.width = canvas.width;
     overlay.height = canvas.height;
@@ -194,6 +219,7 @@ function makeStage(element, {low, high}) {
     stage.lookFrom(stage.direction(), controls.target.clone().add(shift));
   };
   stage.savePicture = () => {
+    resolve(fullRatio());
     stage.drawNow();
     const picture = document.createElement("canvas");
     picture.width = canvas.width;

@@ -1,0 +1,166 @@
+"""pages.py SORVIKPRE SORVIKVIEW EXAMPLES: the pages of the examples, as a reader uses them in a browser."""
+import pathlib
+import shutil
+import subprocess
+import sys
+import tempfile
+
+from browser import settle, show, start
+
+pre, view, examples = sys.argv[1:4]
+sizes = {"desktop": (1280, 900), "phone": (390, 844)}
+failures = []
+
+# How many pixels of the picture lie near each of some colours, by their red, green and blue.
+COUNT = """const canvas = document.querySelector("canvas.view");
+const copy = Object.assign(document.createElement("canvas"), {width: canvas.width, height: canvas.height});
+const paper = copy.getContext("2d", {willReadFrequently: true});
+paper.drawImage(canvas, 0, 0);
+const {data} = paper.getImageData(0, 0, copy.width, copy.height);
+const counts = {painted: 0, hull: 0, water: 0};
+for (let i = 0; i < data.length; i += 4) {
+  const [red, green, blue, alpha] = data.subarray(i, i + 4);
+  counts.painted += alpha > 0;
+  counts.hull += alpha === 255 && red > 1.15 * blue;
+  counts.water += alpha > 0 && blue > 1.15 * red;
+}
+return counts;"""
+
+
+def check(what, holds):
+    if not holds:
+        failures.append(what)
+        print("failed:", what)
+
+
+def picture():
+    return browser.execute_script("return document.querySelector('canvas.view').toDataURL()")
+
+
+def text(selector):
+    return browser.execute_script("return document.querySelector(arguments[0]).textContent", selector)
+
+
+def click(selector):
+    browser.execute_script("document.querySelector(arguments[0]).click()", selector)
+    settle(browser)
+
+
+def changes(what, act):
+    before = picture()
+    act()
+    settle(browser)
+    check(what + " changes the picture", picture() != before)
+
+
+def press(key):
+    browser.execute_script("document.querySelector('canvas.view').dispatchEvent("
+                           "new KeyboardEvent('keydown', {key: arguments[0], bubbles: true}))", key)
+
+
+def click_middle(dx=0, dy=0):
+    """A real click, by the browser's own events, on the middle of the picture."""
+    x, y = browser.execute_script("""const box = document.querySelector("canvas.view").getBoundingClientRect();
+        return [box.x + box.width / 2, box.y + box.height / 2]""")
+    for kind in ("mousePressed", "mouseReleased"):
+        browser.execute_cdp_cmd("Input.dispatchMouseEvent", {
+            "type": kind, "x": x + dx, "y": y + dy, "button": "left", "clickCount": 1})
+    settle(browser)
+
+
+def drag(distance):
+    x, y = browser.execute_script("""const box = document.querySelector("canvas.view").getBoundingClientRect();
+        return [box.x + box.width / 2, box.y + box.height / 2]""")
+    for kind, at in (("mousePressed", x), ("mouseMoved", x + distance), ("mouseReleased", x + distance)):
+        browser.execute_cdp_cmd("Input.dispatchMouseEvent", {
+            "type": kind, "x": at, "y": y, "button": "left", "buttons": 1, "clickCount": 1})
+
+
+def switches(name):
+    return browser.execute_script("""const label = [...document.querySelectorAll("label")]
+        .find(each => each.textContent.trim().startsWith(arguments[0])); label.click()""", name)
+
+
+def check_hull(name):
+    counts = browser.execute_script(COUNT)
+    check(name + " shows hull and water", counts["hull"] > 2000 and counts["water"] > 2000)
+    changes(name + ": dragging", lambda: drag(60))
+    changes(name + ": an arrow key", lambda: press("ArrowLeft"))
+    for label in ("Panel edges", "Normals", "Only the cut", "Water plane"):
+        changes(name + ": " + label, lambda: switches(label))
+    switches("Only the cut")
+    press("3")
+    settle(browser)
+    click_middle(3, 2)
+    return text(".panel output")
+
+
+def check_sea(name):
+    counts = browser.execute_script(COUNT)
+    check(name + " shows the surface", counts["painted"] > 2000)
+    changes(name + ": play", lambda: click("#sea-play"))
+    click("#sea-play")
+    changes(name + ": exaggeration", lambda: browser.execute_script("""
+        const list = document.querySelector("#sea-height"); list.selectedIndex = list.options.length - 1;
+        list.dispatchEvent(new Event("change"))"""))
+
+
+def make(*arguments):
+    subprocess.run([view, *arguments], check=True, cwd=place, stdout=subprocess.DEVNULL)
+
+
+def prepare():
+    """Makes the pages of the examples, and one of a hull with a hole and a name like a script."""
+    for folder in pathlib.Path(examples).iterdir():
+        if folder.is_dir():
+            shutil.copytree(folder, place / folder.name)
+    quiet = {"stdout": subprocess.DEVNULL}
+    subprocess.run([pre, "-nemoh", "-f", "nemohProject.m"], cwd=place / "2-nemoh", **quiet)
+    subprocess.run([pre, "-waveElevation", "-f", "jonswapSea.m", "-domain", "200", "100", "20", "10", "-o", "sea"],
+                   cwd=place / "4-jonswap", **quiet)
+    subprocess.run([pre, "-waveElevation", "-f", "regularWave.m", "-xyFile", "regularWave.xy", "-o", "<script>"],
+                   cwd=place / "3-regular-wave", **quiet)
+    facets = (place / "1-hull/barge.stl").read_text().split("endfacet")
+    (place / "<script>.stl").write_text("endfacet".join(facets[:20] + facets[21:]))
+    make("hull", "1-hull/barge.stl", "-o", "hull.html")
+    make("hull", "1-hull/barge.stl", "1-hull/spar.stl", "-o", "hulls.html")
+    make("hull", "<script>.stl", "-o", "hole.html")
+    make("project", "2-nemoh/nemohProject", "-o", "project.html")
+    make("sea", "4-jonswap/sea", "-o", "sea.html")
+    make("sea", "3-regular-wave/<script>", "-o", "probes.html")
+
+
+def check_pages(size):
+    width, height = sizes[size]
+    for page in ("hull", "hulls", "hole", "project", "sea", "probes"):
+        name = page + " on a " + size
+        show(browser, str(place / page) + ".html", width, height)
+        check(name + " fits in the width", browser.execute_script(
+            "return document.documentElement.scrollWidth <= innerWidth"))
+        if page == "sea":
+            check_sea(name)
+        elif page == "probes":
+            check(name + " shows curves", browser.execute_script(
+                "return document.querySelectorAll('svg.figure').length >= 2"))
+        else:
+            told = check_hull(name)
+            check(name + ": a click tells of the panel on top: " + told,
+                  "normal (0, 0, 1)" in told or page == "hulls" and "spar.stl" in told)
+        if page == "hole":
+            check("the name shows as it is", text("h1") == "<script>.stl")
+            changes("a place of a finding", lambda: click(".finding .place"))
+            changes("the switch of a finding", lambda: click(".finding input"))
+        messages = browser.get_log("browser")
+        check(name + " leaves the console empty: " + str(messages), not messages)
+
+
+with tempfile.TemporaryDirectory() as folder:
+    place = pathlib.Path(folder)
+    browser = start()
+    try:
+        prepare()
+        for size in sizes:
+            check_pages(size)
+    finally:
+        browser.quit()
+sys.exit(1 if failures else 0)

@@ -5,9 +5,11 @@ set(SORVIK_ZSH_COMPLETIONS ${CMAKE_INSTALL_DATADIR}/zsh/site-functions
     CACHE STRING "Where zsh looks for completions")
 
 install(TARGETS sorvikPre)
-if(TARGET sorvikCheck)
-  install(TARGETS sorvikCheck)
-endif()
+foreach(program IN ITEMS sorvikCheck sorvikView)
+  if(TARGET ${program})
+    install(TARGETS ${program})
+  endif()
+endforeach()
 install(TARGETS sorvik EXPORT sorvik INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/sorvik)
 foreach(header IN LISTS SORVIK_PUBLIC_HEADERS)
   get_filename_component(folder ${header} DIRECTORY)
@@ -30,18 +32,19 @@ endforeach()
 include(cmake/installDocuments.cmake)
 install(DIRECTORY share/plots DESTINATION ${CMAKE_INSTALL_DATADIR}/sorvikPre USE_SOURCE_PERMISSIONS)
 
-# Shells load a completion by the name of the command.
+# Shells load a completion by the name of the command; a file may complete several commands.
 set(completions share/completions)
-foreach(command IN ITEMS sorvikPre sorvik-run)
-  install(FILES ${completions}/sorvikPre.bash RENAME ${command}
+set(completed sorvikPre:sorvikPre sorvik-run:sorvikPre sorvik-plot:sorvik-plot sorvikCheck:sorvikCheck
+  sorvikView:sorvikCheck)
+foreach(pair IN LISTS completed)
+  string(REPLACE ":" ";" pair ${pair})
+  list(POP_FRONT pair command file)
+  install(FILES ${completions}/${file}.bash RENAME ${command}
     DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
-  install(FILES ${completions}/${command}.fish
-    DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
-endforeach()
-foreach(command IN ITEMS sorvik-plot sorvikCheck)
-  install(FILES ${completions}/${command}.bash RENAME ${command}
-    DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
-  install(FILES ${completions}/${command}.fish
+  if(EXISTS ${PROJECT_SOURCE_DIR}/${completions}/${command}.fish)
+    set(file ${command})
+  endif()
+  install(FILES ${completions}/${file}.fish RENAME ${command}.fish
     DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
 endforeach()
 install(FILES ${completions}/_sorvikPre ${completions}/_sorvik-plot ${completions}/_sorvikCheck

@@ -1,14 +1,15 @@
-# bash completion of sorvikCheck; the options come from its own help.  -*- shell-script -*-
+# bash completion of sorvikCheck and sorvikView; commands and options come from their own help.  -*- shell-script -*-
 
-_sorvikCheck() {
-    local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]}
+_sorvikHelp() {
+    local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} words
     COMPREPLY=()
     if ((COMP_CWORD == 1)); then
-        mapfile -t COMPREPLY < <(compgen -W "hull input sea project results --help --version" -- "$word")
+        words=$("${COMP_WORDS[0]}" --help 2>/dev/null | awk 'isList && /^  [a-z]/ { print $1 }
+            tolower($1) == "subcommands:" { isList = 1 }')
+        mapfile -t COMPREPLY < <(compgen -W "$words --help --version" -- "$word")
     elif [[ $word == -* ]]; then
-        local options
-        options=$("${COMP_WORDS[0]}" "${COMP_WORDS[1]}" --help 2>/dev/null | grep -oE -e '--[a-z][a-z0-9-]*')
-        mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
+        words=$("${COMP_WORDS[0]}" "${COMP_WORDS[1]}" --help 2>/dev/null | grep -oE -e '--[a-z][a-z0-9-]*')
+        mapfile -t COMPREPLY < <(compgen -W "$words" -- "$word")
     elif [[ $before == --task ]]; then
         mapfile -t COMPREPLY < <(compgen -W "nemoh wave" -- "$word")
     else
@@ -17,4 +18,4 @@ _sorvikCheck() {
     fi
 }
 
-complete -F _sorvikCheck sorvikCheck
+complete -F _sorvikHelp sorvikCheck sorvikView

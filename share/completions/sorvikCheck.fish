@@ -1,15 +1,17 @@
-# fish completion of sorvikCheck; the options come from its own help.
-function __sorvikCheck_options
+# fish completion of sorvikCheck and sorvikView; commands and options come from their own help.
+function __sorvik_commands
+    set -l words (commandline -opc)
+    $words[1] --help 2>/dev/null | awk 'isList && /^  [a-z]/ { name = $1; $1 = ""; print name "\t" substr($0, 2) }
+        tolower($1) == "subcommands:" { isList = 1 }'
+end
+
+function __sorvik_options
     set -l words (commandline -opc)
     $words[1] $words[2] --help 2>/dev/null | string match -ar -- '--[a-z][a-z0-9-]*' | sort -u
 end
 
-set -l commands hull input sea project results
-set -l none "not __fish_seen_subcommand_from $commands"
-complete -c sorvikCheck -n $none -f -a hull -d 'Check a mesh and its hydrostatics'
-complete -c sorvikCheck -n $none -f -a input -d 'Check an input file'
-complete -c sorvikCheck -n $none -f -a sea -d 'Check the sea of an input file'
-complete -c sorvikCheck -n $none -f -a project -d 'Check a Nemoh project'
-complete -c sorvikCheck -n $none -f -a results -d 'Check the results of Nemoh'
-complete -c sorvikCheck -n $none -l version -d 'Print the version'
-complete -c sorvikCheck -n "__fish_seen_subcommand_from $commands" -a '(__sorvikCheck_options)'
+for program in sorvikCheck sorvikView
+    complete -c $program -n __fish_use_subcommand -f -a '(__sorvik_commands)'
+    complete -c $program -n __fish_use_subcommand -l version -d 'Print the version'
+    complete -c $program -n 'not __fish_use_subcommand' -a '(__sorvik_options)'
+end

@@ -116,7 +116,7 @@ void addFinding(const finding& marked, const std::string& id, std::vector<pageNu
     }
     if (!points.empty()) {
         numbers.emplace_back(id, points);
-        numbers.emplace_back(id + "-panels", panels);
+        numbers.emplace_back(id + "Panels", panels);
     }
 }
 

@@ -18,7 +18,7 @@ constexpr std::size_t placesMarked = 20'000;
 /// - waterline: six coordinates of each piece of it
 /// - open: the open edges below the level, three times the panel plus the corner, all from 0
 /// - finding0, finding1, ...: x, y, z of the first `placesMarked` places of a finding
-/// - finding0-panels, ...: their panels, from 1, or 0
+/// - finding0Panels, ...: their panels, from 1, or 0
 void addHullNumbers(const hullReport& hull, double level, const std::string& prefix,
                     std::vector<pageNumbers>& numbers);
 

@@ -72,7 +72,7 @@ TEST(hullPage, holdsPanelsCutAndPlacesOfFindings) {
     const std::vector<triangle> panels = tetrahedron();
     const pageContent open = pageOf(viewed({panels.begin() + 1, panels.end()}, "open"));
     EXPECT_EQ(numbersOf<unsigned>(open, "hull0-open").size(), 3U) << "of the base";
-    EXPECT_EQ(numbersOf<unsigned>(open, "hull0-finding0-panels"), (std::vector<unsigned>{1, 2, 3}));
+    EXPECT_EQ(numbersOf<unsigned>(open, "hull0-finding0Panels"), (std::vector<unsigned>{1, 2, 3}));
     EXPECT_THAT(open.body, HasSubstr("open-edges"));
 }
 

@@ -190,7 +190,7 @@ class ShownFinding {
     const id = hull.prefix + "finding" + element.dataset.finding;
     this.hull = hull;
     this.points = numbersOf(id, Float32Array);
-    this.panels = numbersOf(id + "-panels", Uint32Array);
+    this.panels = numbersOf(id + "Panels", Uint32Array);
     this.count = this.points.length / 3;
     this.style = severities[Object.keys(severities).find(level => element.classList.contains(level))];
     this.place = 0;

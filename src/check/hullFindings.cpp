@@ -15,8 +15,6 @@ namespace {
 /// Corners of the symmetry plane, and open edges of a half hull, lie within this of their plane
 /// [m].
 constexpr double planeTolerance = 1e-4;
-/// Below it a panel has no area that single precision could tell from none [m²].
-constexpr double noArea = 1e-10;
 /// Nemoh refuses smaller panels [m²].
 constexpr double smallestForNemoh = 1e-7;
 

@@ -20,6 +20,8 @@ point3 crossProduct(const point3& a, const point3& b);
 double norm(const point3& a);
 /// The mean of the corners.
 point3 centreOf(const corners3& t);
+/// Below it a panel has no area that single precision could tell from none [m²].
+constexpr double noArea = 1e-10;
 /// Area times normal, by the right-hand rule [m²].
 point3 areaVector(const corners3& t);
 double longestEdge(const corners3& t);

@@ -38,6 +38,7 @@ using panelList = std::vector<const triangle*>;
 
 panelList listOf(const std::vector<triangle>& panels) {
     panelList list;
+    list.reserve(panels.size());
     for (const triangle& panel : panels) {
         list.push_back(&panel);
     }
@@ -67,6 +68,7 @@ std::vector<vtkArray> findingArrays(const hullReport& hull) {
         }
     }
     std::vector<vtkArray> arrays;
+    arrays.reserve(marks.size());
     for (auto& [name, ofKind] : marks) {
         arrays.push_back(makeVtkArray(name, count, [ofKind = std::move(ofKind)](std::size_t i) {
             return std::array{ofKind[i]};

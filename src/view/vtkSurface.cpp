@@ -67,7 +67,7 @@ std::string writeVtkSurface(const std::string& folder, const surfaceRun& run) {
     }
     const std::size_t frames = run.frameTimes.size();
     for (std::size_t i = 0; i < frames; ++i) {
-        const std::string path = folder + "/" + frameName(i, frames);
+        std::string path = folder + "/" + frameName(i, frames);
         const float* elevations = run.frames.data() + i * run.columns * run.rows;
         if (!replaceNoLink(path, [&](std::ostream& out) { writeFrame(out, run, elevations); })) {
             return path;

@@ -18,14 +18,12 @@ using testing::HasSubstr;
 /// The bytes of the arrays of a file by type and name. They must lie one after the other.
 std::map<std::string, std::string> arraysOf(const std::string& file) {
     const std::string text = readFile(file);
-    const std::string mark = "<AppendedData encoding=\"raw\">\n_";
-    const std::string head = text.substr(0, text.find(mark));
+    const std::string head = text.substr(0, text.find("\n_") + 2);
     const std::regex pattern("type=\"(\\w+)\" Name=\"([^\"]+)\".* offset=\"(\\d+)\"");
     std::map<std::string, std::string> arrays;
-    std::size_t end = head.size() + mark.size();
-    const std::size_t start = end;
+    std::size_t end = head.size();
     for (std::sregex_iterator i(head.begin(), head.end(), pattern), none; i != none; ++i) {
-        EXPECT_EQ(start + std::stoull((*i)[3]), end) << (*i)[2];
+        EXPECT_EQ(head.size() + std::stoull((*i)[3]), end) << (*i)[2];
         const auto size = littleEndian::load<std::uint64_t>(text.substr(end, 8).data());
         arrays[(*i)[1].str() + " " + (*i)[2].str()] = text.substr(end + 8, size);
         end += 8 + size;
@@ -44,22 +42,15 @@ std::vector<Number> numbers(const std::string& bytes) {
 TEST(writeVtkHull, writesPanelsWithTheirData) {
     // A wet panel with a corner at the level and a wrong normal, a cut one, a dry one, and one
     // without area.
+    const std::string stl = std::regex_replace(
+        std::string("solid a\n0 0 -2,1 0 -2,0 1 0,\n1 0 -2,0 0 -2,0 -1 1,\n"
+                    "5 0 1,6 0 1,5 1 2,\n0 0 -2,0 0 -2,1 0 -2,\nendsolid a\n"),
+        std::regex("(.*),(.*),(.*),"),
+        "facet normal 0 0 1\nouter loop\nvertex $1\nvertex $2\nvertex $3\nendloop\nendfacet");
     const temporaryFolder folder;
-    std::string stl = "solid a\n";
-    for (const char* corners : {"0 0 -2 1 0 -2 0 1 0", "1 0 -2 0 0 -2 0 -1 1", "5 0 1 6 0 1 5 1 2",
-                                "0 0 -2 0 0 -2 1 0 -2"}) {
-        const std::regex point("(\\S+ \\S+ \\S+) ?");
-        stl += "facet normal 0 0 1\nouter loop\n" +
-               std::regex_replace(std::string(corners), point, "vertex $1\n") +
-               "endloop\nendfacet\n";
-    }
-    const hullReport hull = checkHull(writeFile(folder.path("a.stl"), stl + "endsolid a\n"), {});
+    const hullReport hull = checkHull(writeFile(folder.path("a.stl"), stl), {});
     ASSERT_EQ(writeVtkHull(folder.path("new"), "a", hull, 0), "");
-
     auto whole = arraysOf(folder.path("new/a.vtp"));
-    EXPECT_THAT(readFile(folder.path("new/a.vtp")),
-                HasSubstr("NumberOfPoints=\"7\" NumberOfVerts=\"0\" NumberOfLines=\"0\" "
-                          "NumberOfStrips=\"0\" NumberOfPolys=\"4\""));
     EXPECT_EQ(whole["Float32 Points"].size(), 7 * 3 * 4);
     EXPECT_THAT(numbers<std::int64_t>(whole["Int64 connectivity"]),
                 ElementsAre(0, 1, 2, 1, 0, 3, 4, 5, 6, 0, 0, 1));
@@ -70,20 +61,18 @@ TEST(writeVtkHull, writesPanelsWithTheirData) {
     EXPECT_THAT(numbers<char>(whole["UInt8 panel-without-area"]), ElementsAre(0, 0, 0, 1));
     const auto normals = numbers<float>(whole["Float32 Normals"]);
     EXPECT_FLOAT_EQ(normals.at(1), -2 / std::sqrt(5.0F));
-    EXPECT_FLOAT_EQ(normals.at(2), 1 / std::sqrt(5.0F));
     EXPECT_THAT(std::vector<float>(normals.end() - 3, normals.end()), ElementsAre(0, 0, 0));
     EXPECT_NEAR(numbers<double>(whole["Float64 area"]).at(0), std::sqrt(5) / 2, 1e-7);
     EXPECT_EQ(arraysOf(folder.path("new/a-wet.vtp"))["Int64 offsets"].size(), 4 * 8);
 
     // Nothing is written through a link.
     std::filesystem::remove(folder.path("new/a.vtp"));
-    std::error_code noLinks;
-    std::filesystem::create_symlink(folder.path("a.stl"), folder.path("new/a.vtp"), noLinks);
-    if (!noLinks) {
-        EXPECT_EQ(writeVtkHull(folder.path("new"), "a", hull, 0), folder.path("new/a.vtp"));
-    }
+#ifndef _WIN32
+    std::filesystem::create_symlink(folder.path("a.stl"), folder.path("new/a.vtp"));
+    EXPECT_EQ(writeVtkHull(folder.path("new"), "a", hull, 0), folder.path("new/a.vtp"));
+#endif
     EXPECT_EQ(writeVtkHull(folder.path("a.stl"), "a", hull, 0), folder.path("a.stl"));
-    EXPECT_EQ(readFile(folder.path("a.stl")), stl + "endsolid a\n");
+    EXPECT_EQ(readFile(folder.path("a.stl")), stl);
 }
 
 TEST(vtkStems, writesNoFileTwice) {
@@ -93,13 +82,9 @@ TEST(vtkStems, writesNoFileTwice) {
 
 TEST(writeVtkSurface, writesFramesAndTheirTimes) {
     const temporaryFolder folder;
-    surfaceRun run;
-    run.columns = 3;
-    run.rows = 2;
-    run.x = {0, 1, 2};
-    run.y = {-5, 5};
-    run.frameTimes = {0.1, 10800.0625};
-    run.frames = {0, 0, 0, 0, 0, 0, 1, 2, 3, 4, 5, 6};
+    const surfaceRun run = {
+        3,  2,  {0, 1, 2}, {-5, 5}, {0.1, 10800.0625}, {0, 0, 0, 0, 0, 0, 1, 2, 3, 4, 5, 6},
+        {}, {}, 1,         1};
     ASSERT_EQ(writeVtkSurface(folder.path(), run), "");
     auto last = arraysOf(folder.path("surface0001.vts"));
     EXPECT_THAT(numbers<float>(last["Float32 elevation"]), ElementsAre(1, 2, 3, 4, 5, 6));

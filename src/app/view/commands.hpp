@@ -15,7 +15,7 @@ namespace sorvik {
 struct viewRequest {
     std::string pageFile;             ///< where the page goes, or ""
     std::string vtkFolder;            ///< where files for ParaView go, or ""
-    std::vector<std::string> sources; ///< what is read, which no page may replace
+    std::vector<std::string> sources; ///< files that are read, which no page may replace
     /// Makes the page, and writes what `vtkFolder` asks for; may throw `cannotView` or
     /// `cannotCheck`.
     std::function<pageContent()> make;
@@ -25,6 +25,10 @@ struct viewRequest {
 struct cannotView : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
+
+/// Says on standard output that `folder` has the files for ParaView, or throws `cannotView` where
+/// `failed` names one that could not be written.
+void requireWritten(const std::string& folder, const std::string& failed);
 
 // Each adds its command with its options to the application; `asked` must outlive that.
 void addHullView(CLI::App& app, viewRequest& asked);

@@ -24,7 +24,8 @@ std::map<std::string, std::string> arraysOf(const std::string& file) {
     std::size_t end = head.size();
     for (std::sregex_iterator i(head.begin(), head.end(), pattern), none; i != none; ++i) {
         EXPECT_EQ(head.size() + std::stoull((*i)[3]), end) << (*i)[2];
-        const auto size = littleEndian::load<std::uint64_t>(text.substr(end, 8).data());
+        const auto bytes = littleEndian::load<std::uint64_t>(text.substr(end, 8).data());
+        const auto size = static_cast<std::size_t>(bytes);
         arrays[(*i)[1].str() + " " + (*i)[2].str()] = text.substr(end + 8, size);
         end += 8 + size;
     }

@@ -15,6 +15,7 @@ set(texts
   libraryScript ${SORVIK_THREE}/three.min.js
   libraryScript ${SORVIK_THREE}/examples/js/controls/OrbitControls.js
   pageStyle ${page}/page.css
+  pageStyle ${page}/figure.css
   pageScript ${page}/numbers.js
   pageScript ${page}/stage.js
   pageScript ${page}/hull.js
@@ -41,7 +42,8 @@ set_source_files_properties(${assets} PROPERTIES COMPILE_OPTIONS -Wno-overlength
 add_executable(sorvikView
   ${assets}
   src/app/view/hullCommand.cpp
-  src/app/view/main.cpp)
+  src/app/view/main.cpp
+  src/app/view/projectCommand.cpp)
 sorvik_options(sorvikView)
 target_link_libraries(sorvikView PRIVATE sorvik commandLine)
 target_compile_definitions(sorvikView PRIVATE SORVIK_VERSION="${SORVIK_VERSION}")

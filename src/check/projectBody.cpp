@@ -3,7 +3,6 @@
 #include "base/classicText.hpp"
 #include "base/files.hpp"
 #include "base/numberText.hpp"
-#include "check/hullCheck.hpp"
 #include "check/irregularFrequency.hpp"
 #include "mesh/nemohFormat.hpp"
 
@@ -34,15 +33,6 @@ struct checkedBody {
         result.addFact(prefix + name, isShown ? label + text : "", std::move(value), unit);
     }
 };
-
-/// The name of the mesh that is there, in the project folder: as Nemoh reads it, or as it was
-/// meant. Empty without either.
-std::string findMesh(const std::string& folder, const calBody& body) {
-    const auto isThere = [&](const std::string& name) {
-        return !name.empty() && std::filesystem::is_regular_file(folder + "/" + name);
-    };
-    return isThere(body.mesh) ? body.mesh : isThere(body.meshText) ? body.meshText : "";
-}
 
 void checkName(const std::string& found, const calBody& body, report& result) {
     const location place = ofCal(body.meshLine);
@@ -148,9 +138,8 @@ void takeFacts(report& hull, checkedBody& checked) {
     }
 }
 
-/// The findings on the hull, whose cures name the keys of the project rather than the options of
-/// `sorvikCheck hull`.
-void takeFindings(report& hull, const std::string& mesh, report& result) {
+/// Turns cures by options of `sorvikCheck hull` into cures by keys of the project.
+void nameKeys(report& hull) {
     const std::string nearby = "Merge nearby corners in the meshing program, or change position by "
                                "a few millimetres.";
     const std::string placed = "Check cogInMesh and position in the input file: the mesh moves by "
@@ -165,6 +154,11 @@ void takeFindings(report& hull, const std::string& mesh, report& result) {
         for (const auto& [name, cure] : cures) {
             each.cure = each.name == name ? cure : each.cure;
         }
+    }
+}
+
+void takeFindings(report& hull, const std::string& mesh, report& result) {
+    for (finding& each : hull.findings) {
         for (location& place : each.where) {
             place.file = mesh;
         }
@@ -208,7 +202,7 @@ void checkMesh(const std::string& file, const std::string& name, checkedBody& ch
     checkCounts(file, checked.body, result);
     checkHeights(file, name, result);
     const hullOptions options = optionsFor(checked.cal, checked.body);
-    hullReport hull = checkHull(file, options);
+    hullReport hull = checkBodyHull(file, checked.cal, checked.body);
     const bool hasLid = hull.result.find("lid") != nullptr;
     takeFacts(hull.result, checked);
     takeFindings(hull.result, name, result);
@@ -219,6 +213,19 @@ void checkMesh(const std::string& file, const std::string& name, checkedBody& ch
 }
 
 } // namespace
+
+std::string findBodyMesh(const std::string& folder, const calBody& body) {
+    const auto isThere = [&](const std::string& name) {
+        return !name.empty() && std::filesystem::is_regular_file(folder + "/" + name);
+    };
+    return isThere(body.mesh) ? body.mesh : isThere(body.meshText) ? body.meshText : "";
+}
+
+hullReport checkBodyHull(const std::string& file, const nemohCal& cal, const calBody& body) {
+    hullReport hull = checkHull(file, optionsFor(cal, body));
+    nameKeys(hull.result);
+    return hull;
+}
 
 void checkProjectBody(const std::string& folder, const nemohCal& cal, std::size_t index,
                       report& result) {
@@ -245,7 +252,7 @@ void checkProjectBody(const std::string& folder, const nemohCal& cal, std::size_
     if (body.mesh.empty()) {
         return; // Nemoh.cal ends before it
     }
-    const std::string found = findMesh(folder, body);
+    const std::string found = findBodyMesh(folder, body);
     checkName(found, body, result);
     if (!found.empty()) {
         checkMesh(folder + "/" + found, found, checked);

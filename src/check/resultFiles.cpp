@@ -13,6 +13,19 @@
 namespace sorvik {
 namespace {
 
+constexpr const char* radiationFile = "RadiationCoefficients.tec";
+constexpr const char* excitationFile = "ExcitationForce.tec";
+
+/// Where the file of results is, without the project folder; empty where there is none.
+std::string findResult(const std::string& project, const std::string& name) {
+    for (const char* folder : {"Results/", "results/"}) {
+        if (files::canOpen(std::string(project).append("/").append(folder) + name)) {
+            return folder + name;
+        }
+    }
+    return "";
+}
+
 /// What a file of results holds by its own head and zones.
 struct resultShape {
     std::string file; ///< without the project folder; empty where there is none
@@ -47,16 +60,12 @@ void scanLine(const std::string& text, int number, resultShape& shape) {
 
 resultShape scanResults(const std::string& project, const std::string& name) {
     resultShape shape;
-    for (const char* folder : {"Results/", "results/"}) {
-        const std::string file = folder + name;
-        std::ifstream in = files::open(std::string(project).append("/").append(file));
-        if (in.is_open()) {
-            shape.file = file;
-            std::string text;
-            for (int number = 1; std::getline(in, text); ++number) {
-                scanLine(text, number, shape);
-            }
-            break;
+    shape.file = findResult(project, name);
+    if (!shape.file.empty()) {
+        std::ifstream in = files::open(std::string(project).append("/").append(shape.file));
+        std::string text;
+        for (int number = 1; std::getline(in, text); ++number) {
+            scanLine(text, number, shape);
         }
     }
     return shape;
@@ -162,6 +171,16 @@ std::vector<resultDof> dofsOf(const nemohCal& cal, std::vector<calDof> calBody::
 
 } // namespace
 
+std::vector<std::string> resultFiles(const std::string& folder) {
+    std::vector<std::string> found;
+    for (const char* name : {radiationFile, excitationFile}) {
+        if (std::string file = findResult(folder, name); !file.empty()) {
+            found.push_back(std::move(file));
+        }
+    }
+    return found;
+}
+
 nemohResults readNemohResults(const std::string& folder, const nemohCal& cal, report& result) {
     nemohResults results;
     results.omegas = cal.omegas();
@@ -175,11 +194,11 @@ nemohResults readNemohResults(const std::string& folder, const nemohCal& cal, re
     const std::size_t forces = results.forces.size();
     std::vector<double>& addedMass = results.addedMass;
     std::vector<double>& amplitudes = results.amplitudes;
-    readFile(folder, "RadiationCoefficients.tec",
+    readFile(folder, radiationFile,
              {"motions", results.motions.size(), forces, results.omegas.size()}, result, addedMass,
              results.damping,
              [&] { project.readCoeffs(freqs, bodies, addedMass, results.damping); });
-    readFile(folder, "ExcitationForce.tec",
+    readFile(folder, excitationFile,
              {"directions", results.angles.size(), forces, results.omegas.size()}, result,
              amplitudes, results.phases, [&] {
                  project.readExcitation(freqs, directions, bodies, amplitudes, results.phases);

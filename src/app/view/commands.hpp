@@ -32,6 +32,7 @@ void requireWritten(const std::string& folder, const std::string& failed);
 
 // Each adds its command with its options to the application; `asked` must outlive that.
 void addHullView(CLI::App& app, viewRequest& asked);
+void addProjectView(CLI::App& app, viewRequest& asked);
 
 /// A command in the help.
 struct viewText {

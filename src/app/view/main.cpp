@@ -68,6 +68,7 @@ int runCommandLine(int argc, const char** argv) {
     app.set_version_flag("--version", "sorvikView " SORVIK_VERSION);
     app.require_subcommand(1);
     addHullView(app, asked);
+    addProjectView(app, asked);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

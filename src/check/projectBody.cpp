@@ -138,7 +138,7 @@ void takeFacts(report& hull, checkedBody& checked) {
     }
 }
 
-/// Turns cures by options of `sorvikCheck hull` into cures by keys of the project.
+/// Turns options of `sorvikCheck hull`, in cures and labels, into keys of the project.
 void nameKeys(report& hull) {
     const std::string nearby = "Merge nearby corners in the meshing program, or change position by "
                                "a few millimetres.";
@@ -153,6 +153,11 @@ void nameKeys(report& hull) {
     for (finding& each : hull.findings) {
         for (const auto& [name, cure] : cures) {
             each.cure = each.name == name ? cure : each.cure;
+        }
+    }
+    for (fact& each : hull.facts) {
+        if (each.name == "panelsPerWave") {
+            each.label = "Panels per shortest wave";
         }
     }
 }

@@ -18,11 +18,12 @@ namespace {
 constexpr std::size_t headingsDrawn = 36;
 
 std::vector<viewedHull> readHulls(const std::string& folder, const nemohCal& cal) {
+    const std::string inside = folder + "/";
     std::vector<viewedHull> hulls;
     for (const calBody& body : cal.bodies) {
         const std::string mesh = findBodyMesh(folder, body);
         if (!mesh.empty()) {
-            hulls.push_back({mesh, checkBodyHull(folder + "/" + mesh, cal, body)});
+            hulls.push_back({mesh, checkBodyHull(inside + mesh, cal, body)});
         }
     }
     return hulls;
@@ -66,7 +67,8 @@ std::string projectHtml(const std::string& folder, const nemohCal& cal,
                         const std::vector<viewedHull>& hulls) {
     report project = checkProject(folder);
     leaveToHulls(hulls, project);
-    std::string html = "<section class=\"project\">\n<h2>Load cases</h2>\n" + factsHtml(project);
+    std::string html =
+        "<section class=\"project\" id=\"project\">\n<h2>Load cases</h2>\n" + factsHtml(project);
     if (cal.directions.value > static_cast<double>(headingsDrawn)) {
         html += "<p>" + std::to_string(headingsDrawn) +
                 " of the directions are drawn around the hull.</p>\n";
@@ -74,14 +76,21 @@ std::string projectHtml(const std::string& folder, const nemohCal& cal,
     return html + "<h3>Findings</h3>\n" + findingsHtml(project, "project-") + "</section>\n";
 }
 
+/// Whether the findings of the project have it too.
+bool isOfProject(const finding& ofResults) {
+    return ofResults.name == "no-hydrostatics" || ofResults.name == "unread-project";
+}
+
 std::string resultsHtml(const std::string& folder, const nemohCal& cal) {
-    const std::string start = "<section class=\"results\">\n<h2>Results</h2>\n";
+    const std::string start = "<section class=\"results\" id=\"results\">\n<h2>Results</h2>\n";
     if (resultFiles(folder).empty()) {
         return start + "<p>There are no results yet. Run Nemoh's preprocessor, solver and "
                        "postprocessor in the project's folder, then make this page "
                        "again.</p>\n</section>\n";
     }
-    const resultsReport checked = checkResults(folder);
+    resultsReport checked = checkResults(folder);
+    auto& findings = checked.result.findings;
+    findings.erase(std::remove_if(findings.begin(), findings.end(), isOfProject), findings.end());
     std::vector<std::string> meshes;
     for (const calBody& body : cal.bodies) {
         meshes.push_back(body.mesh);
@@ -105,12 +114,13 @@ pageContent projectPage(const std::string& folder) {
 }
 
 std::vector<std::string> projectFiles(const std::string& folder) {
-    std::vector<std::string> all = {folder + "/Nemoh.cal"};
+    const std::string inside = folder + "/";
+    std::vector<std::string> all = {inside + "Nemoh.cal"};
     for (const calBody& body : openNemohCal(folder).bodies) {
-        all.push_back(folder + "/" + findBodyMesh(folder, body));
+        all.push_back(inside + findBodyMesh(folder, body));
     }
     for (const std::string& file : resultFiles(folder)) {
-        all.push_back(folder + "/" + file);
+        all.push_back(inside + file);
     }
     return all;
 }

@@ -108,16 +108,20 @@ std::string resultFiguresHtml(const nemohResults& results, const std::vector<std
     const diagonal diagonals[] = {
         {"Added mass", "added mass", "kg", "kg m²", results.addedMass},
         {"Radiation damping", "damping", "kg/s", "kg m²/s", results.damping}};
-    std::string html = remarks(results, meshes.size());
+    std::string html;
     for (std::size_t i = 0; i < std::min(meshes.size(), bodiesDrawn); ++i) {
         const int body = static_cast<int>(i) + 1;
-        html += "<h2>Body " + std::to_string(body) + ": " + escapeHtml(meshes[i]) + "</h2>\n";
+        std::string figures;
         for (const diagonal& each : diagonals) {
-            html += diagonalHtml(results, body, each);
+            figures += diagonalHtml(results, body, each);
         }
-        html += excitationHtml(results, body);
+        figures += excitationHtml(results, body);
+        if (!figures.empty()) {
+            html += "<h2>Body " + std::to_string(body) + ": " + escapeHtml(meshes[i]) + "</h2>\n" +
+                    figures;
+        }
     }
-    return html;
+    return html.empty() ? html : remarks(results, meshes.size()) + html;
 }
 
 } // namespace sorvik

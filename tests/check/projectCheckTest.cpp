@@ -1,7 +1,6 @@
 #include "check/projectCheck.hpp"
 #include "check/irregularFrequency.hpp"
-#include "nemoh/nemohIO.hpp"
-#include "support/program.hpp"
+#include "support/nemohRun.hpp"
 
 #include <cmath>
 #include <set>
@@ -12,9 +11,6 @@ using namespace sorvik;
 using names = std::set<std::string>;
 using replacements = std::vector<std::pair<std::string, std::string>>;
 
-// 2 m x 2 m, 1 m deep, open at the water plane.
-const std::string box = "2 0\n1 -1 -1 -1\n2 1 -1 -1\n3 1 1 -1\n4 -1 1 -1\n5 -1 -1 0\n6 1 -1 0\n"
-                        "7 1 1 0\n8 -1 1 0\n0 0 0 0\n1 4 3 2\n1 2 6 5\n2 3 7 6\n3 4 8 7\n4 1 5 8\n";
 const std::string longName = std::string(77, 'n') + ".dat";
 
 /// The box in 60 m of water at frequencies that suit it, sound but for what is replaced in
@@ -26,13 +22,13 @@ report checkBox(const temporaryFolder& folder, const replacements& changes = {})
     nemoh.addLoadCases(3, 0.25, 0.5, 2, 0, 90);
     nemoh.addPostProc(0, 20);
     nemoh.finish();
-    std::string high = box;
+    std::string high = boxMesh;
     high.replace(high.find("-1 0\n"), 5, "-1 0.25\n");
     for (const std::string& name : {std::string("box.dat"), std::string("my box.dat"), longName}) {
-        writeFile(folder.path(name), box + "0 0 0 0\n");
+        writeFile(folder.path(name), boxMesh + "0 0 0 0\n");
     }
     writeFile(folder.path("high.dat"), high + "0 0 0 0\n");
-    writeFile(folder.path("lid.dat"), box + "5 6 7 8\n0 0 0 0\n");
+    writeFile(folder.path("lid.dat"), boxMesh + "5 6 7 8\n0 0 0 0\n");
     writeFile(folder.path("mesh/KH.dat"), "");
     std::string cal = readFile(folder.path("Nemoh.cal"));
     for (const auto& [old, by] : changes) {

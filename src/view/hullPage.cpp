@@ -75,8 +75,8 @@ pageContent hullPage(const std::vector<viewedHull>& hulls, double level) {
     pageContent page;
     page.kind = "hull";
     for (const viewedHull& each : hulls) {
-        page.title += (page.title.empty() ? "" : ", ") +
-                      std::filesystem::path(each.name).filename().string();
+        page.title +=
+            (page.title.empty() ? "" : ", ") + std::filesystem::path(each.name).filename().string();
     }
     page.body = hullBody(hulls, level, {}, page.numbers);
     return page;

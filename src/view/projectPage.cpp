@@ -5,7 +5,6 @@
 #include "check/resultFiles.hpp"
 #include "check/resultsCheck.hpp"
 #include "view/evenly.hpp"
-#include "view/hullPage.hpp"
 #include "view/reportHtml.hpp"
 #include "view/resultFigures.hpp"
 
@@ -16,18 +15,6 @@ namespace sorvik {
 namespace {
 
 constexpr std::size_t headingsDrawn = 36;
-
-std::vector<viewedHull> readHulls(const std::string& folder, const nemohCal& cal) {
-    const std::string inside = folder + "/";
-    std::vector<viewedHull> hulls;
-    for (const calBody& body : cal.bodies) {
-        const std::string mesh = findBodyMesh(folder, body);
-        if (!mesh.empty()) {
-            hulls.push_back({mesh, checkBodyHull(inside + mesh, cal, body)});
-        }
-    }
-    return hulls;
-}
 
 std::vector<double> headingsOf(const nemohCal& cal) {
     const std::vector<double> angles = cal.angles();
@@ -102,9 +89,21 @@ std::string resultsHtml(const std::string& folder, const nemohCal& cal) {
 
 } // namespace
 
-pageContent projectPage(const std::string& folder) {
+std::vector<viewedHull> projectHulls(const std::string& folder) {
     const nemohCal cal = openNemohCal(folder);
-    const std::vector<viewedHull> hulls = readHulls(folder, cal);
+    const std::string inside = folder + "/";
+    std::vector<viewedHull> hulls;
+    for (const calBody& body : cal.bodies) {
+        const std::string mesh = findBodyMesh(folder, body);
+        if (!mesh.empty()) {
+            hulls.push_back({mesh, checkBodyHull(inside + mesh, cal, body)});
+        }
+    }
+    return hulls;
+}
+
+pageContent projectPage(const std::string& folder, const std::vector<viewedHull>& hulls) {
+    const nemohCal cal = openNemohCal(folder);
     pageContent page;
     page.kind = "project";
     page.title = "Nemoh project " + folder;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "view/hullPage.hpp"
 #include "view/page.hpp"
 
 #include <string>
@@ -7,12 +8,15 @@
 
 namespace sorvik {
 
-/// The page of a project folder of Nemoh 3: the hulls as Nemoh gets them with the directions of the
-/// load cases around them, the facts and findings of the project, and with results their curves.
+/// The hulls of a project folder of Nemoh 3 as Nemoh gets them, of the bodies whose mesh is there.
 /// Throws `cannotCheck` where there is no Nemoh.cal to read.
-pageContent projectPage(const std::string& folder);
+std::vector<viewedHull> projectHulls(const std::string& folder);
 
-/// The files that the page is made from. Throws as `projectPage`.
+/// The page of a project: its hulls with the directions of the load cases around them, the facts
+/// and findings of the project, and with results their curves. Throws as `projectHulls`.
+pageContent projectPage(const std::string& folder, const std::vector<viewedHull>& hulls);
+
+/// The files that the page is made from. Throws as `projectHulls`.
 std::vector<std::string> projectFiles(const std::string& folder);
 
 } // namespace sorvik

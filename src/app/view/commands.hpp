@@ -1,5 +1,6 @@
 #pragma once
 
+#include "view/hullPage.hpp"
 #include "view/page.hpp"
 
 #include <CLI/CLI.hpp>
@@ -26,9 +27,13 @@ struct cannotView : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-/// Says on standard output that `folder` has the files for ParaView, or throws `cannotView` where
-/// `failed` names one that could not be written.
-void requireWritten(const std::string& folder, const std::string& failed);
+/// Throws `cannotView` where `failed` names a file for ParaView that could not be written.
+void requireWritten(const std::string& failed);
+/// Says on standard output that `folder` has the files for ParaView.
+void sayWritten(const std::string& folder);
+/// Writes hulls at `level` [m] into `folder`, unless that is empty. Throws `cannotView` for a hull
+/// without panels or a file that cannot be written.
+void writeHullFiles(const std::string& folder, const std::vector<viewedHull>& hulls, double level);
 
 // Each adds its command with its options to the application; `asked` must outlive that.
 void addHullView(CLI::App& app, viewRequest& asked);

@@ -1,6 +1,5 @@
 #include "app/view/commands.hpp"
 #include "check/hullCheck.hpp"
-#include "view/hullPage.hpp"
 #include "view/vtkHull.hpp"
 
 #include <memory>
@@ -13,30 +12,34 @@ struct hullViewRequest {
     hullOptions options = {};
 };
 
-void writeVtk(const std::string& folder, const std::vector<viewedHull>& hulls, double level,
-              const std::vector<std::string>& meshes) {
-    const std::vector<std::string> stems = vtkStems(meshes);
-    for (std::size_t i = 0; i < hulls.size(); ++i) {
-        if (!hulls[i].hull.hasPanels) {
-            throw cannotView(meshes[i] + " gives no panels for " + folder +
-                             ". sorvikCheck hull says why.");
-        }
-        requireWritten(folder, writeVtkHull(folder, stems[i], hulls[i].hull, level));
-    }
-}
-
 pageContent makeHullView(const std::string& vtkFolder, const hullViewRequest& wanted) {
     std::vector<viewedHull> hulls;
     for (const std::string& mesh : wanted.meshes) {
         hulls.push_back({mesh, checkHull(mesh, wanted.options)});
     }
-    if (!vtkFolder.empty()) {
-        writeVtk(vtkFolder, hulls, wanted.options.level, wanted.meshes);
-    }
+    writeHullFiles(vtkFolder, hulls, wanted.options.level);
     return hullPage(hulls, wanted.options.level);
 }
 
 } // namespace
+
+void writeHullFiles(const std::string& folder, const std::vector<viewedHull>& hulls, double level) {
+    if (folder.empty()) {
+        return;
+    }
+    std::vector<std::string> names;
+    for (const viewedHull& each : hulls) {
+        names.push_back(each.name);
+    }
+    const std::vector<std::string> stems = vtkStems(names);
+    for (std::size_t i = 0; i < hulls.size(); ++i) {
+        if (!hulls[i].hull.hasPanels) {
+            throw cannotView(names[i] + " gives no panels for --vtk. sorvikCheck hull says why.");
+        }
+        requireWritten(writeVtkHull(folder, stems[i], hulls[i].hull, level));
+    }
+    sayWritten(folder);
+}
 
 void addHullView(CLI::App& app, viewRequest& asked) {
     const auto wanted = std::make_shared<hullViewRequest>(hullViewRequest{asked.sources});

@@ -21,11 +21,14 @@ CLI::App& addView(CLI::App& app, viewRequest& asked, const viewText& text,
     return command;
 }
 
-void requireWritten(const std::string& folder, const std::string& failed) {
+void requireWritten(const std::string& failed) {
     if (!failed.empty()) {
         throw cannotView("Cannot write " + failed +
                          ". Give --vtk a folder that can be written, with room for the files.");
     }
+}
+
+void sayWritten(const std::string& folder) {
     std::cout << "Wrote files for ParaView into " << folder << "." << std::endl;
 }
 

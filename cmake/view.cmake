@@ -16,6 +16,7 @@ set(texts
   libraryScript ${SORVIK_THREE}/examples/js/controls/OrbitControls.js
   pageStyle ${page}/page.css
   pageStyle ${page}/figure.css
+  pageStyle ${page}/sea.css
   pageScript ${page}/numbers.js
   pageScript ${page}/stage.js
   pageScript ${page}/hull.js
@@ -43,7 +44,8 @@ add_executable(sorvikView
   ${assets}
   src/app/view/hullCommand.cpp
   src/app/view/main.cpp
-  src/app/view/projectCommand.cpp)
+  src/app/view/projectCommand.cpp
+  src/app/view/seaCommand.cpp)
 sorvik_options(sorvikView)
 target_link_libraries(sorvikView PRIVATE sorvik commandLine)
 target_compile_definitions(sorvikView PRIVATE SORVIK_VERSION="${SORVIK_VERSION}")

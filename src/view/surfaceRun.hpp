@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -12,6 +11,7 @@ struct surfaceLimits {
     std::size_t frames = 0;          ///< at most; 0 for as many as `values` allows
     std::size_t values = 10'000'000; ///< elevations of all frames together, at most
     std::size_t nodes = 250'000;     ///< of a frame, at most
+    std::size_t series = 24;         ///< probes whose series are kept, at most
     std::vector<double> probes;      ///< x1, y1, x2, ...: places on the grid whose series are kept
 };
 
@@ -28,21 +28,27 @@ struct surfaceProbe {
 struct surfaceRun {
     std::size_t columns = 0;        ///< nodes along x in a frame, 0 without a grid
     std::size_t rows = 0;           ///< along y
-    std::vector<double> x;          ///< of the columns [m], ascending
-    std::vector<double> y;          ///< of the rows [m]
+    std::vector<double> x;          ///< of the columns [m]; ascending unless the size is negative
+    std::vector<double> y;          ///< of the rows [m], in the same way
     std::vector<double> frameTimes; ///< s
     std::vector<float> frames;      ///< elevations [m]: (frame, row, column), the last fastest
-    std::vector<double> times;      ///< of all instants [s]
+    std::vector<double> times;      ///< of all instants [s]; none is before the one above
     std::vector<surfaceProbe> probes;
     std::size_t everyInstant = 1; ///< a frame is kept of so many instants
-    std::size_t everyNode = 1;    ///< along both axes
+    /// A node is kept of so many along both axes; an axis with fewer keeps its first and last.
+    std::size_t everyNode = 1;
+    std::size_t nodesOfRun = 0; ///< at each instant: those of the grid, or the probes
 
     bool isGrid() const { return columns > 0; }
 };
 
-/// Reads waveElevation.dat of a folder, and waveDomain.dat where it is there, in one pass over
-/// each. A file that is missing or damaged, or does not fit the other, throws `cannotCheck`, which
-/// names the line.
+/// Reads waveElevation.dat of a folder, and waveDomain.dat where it is there.
+///
+/// On a grid the series are those at the nodes nearest to `limits.probes`, or at the centre and the
+/// first corner; without a grid those of the first probes of the table. A file that is missing or
+/// damaged or does not fit the other, and places that are not on the grid, throw `cannotCheck`,
+/// which names the line. Memory is bounded by the limits and 100 million numbers for the series,
+/// whatever is in the files.
 surfaceRun readSurfaceRun(const std::string& folder, const surfaceLimits& limits);
 
 } // namespace sorvik

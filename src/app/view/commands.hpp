@@ -38,6 +38,7 @@ void writeHullFiles(const std::string& folder, const std::vector<viewedHull>& hu
 // Each adds its command with its options to the application; `asked` must outlive that.
 void addHullView(CLI::App& app, viewRequest& asked);
 void addProjectView(CLI::App& app, viewRequest& asked);
+void addSeaView(CLI::App& app, viewRequest& asked);
 
 /// A command in the help.
 struct viewText {

@@ -27,6 +27,9 @@ void writeHullFiles(const std::string& folder, const std::vector<viewedHull>& hu
     if (folder.empty()) {
         return;
     }
+    if (hulls.empty()) {
+        throw cannotView("There is no mesh for --vtk. sorvikCheck project says what is missing.");
+    }
     std::vector<std::string> names;
     for (const viewedHull& each : hulls) {
         names.push_back(each.name);

@@ -72,6 +72,7 @@ int runCommandLine(int argc, const char** argv) {
     app.require_subcommand(1);
     addHullView(app, asked);
     addProjectView(app, asked);
+    addSeaView(app, asked);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

@@ -20,7 +20,8 @@ function ticksOf(low, high, least) {
 
 /** Axes with ticks [m] along those edges of the stage's box that nothing hides. */
 function paintAxes(paint, stage) {
-  const {low, high, project} = stage;
+  const {low, high} = stage;
+  const project = point => stage.project(point);
   const gap = 0.03 * stage.size;
   const ends = [low.map(l => l - gap), high.map(h => h + gap)];
   const from = stage.direction();
@@ -67,10 +68,265 @@ const views = [
 ];
 
 /**
- * Makes a picture in three dimensions in `element`, seen in parallel projection with z upwards, of
- * what lies between the points `low` and `high` [m]. Nothing is drawn unless `draw` asks for it.
- * Returns null, after a sentence for the reader, where the browser cannot draw.
+ * A picture in three dimensions in `element`, seen in parallel projection with z upwards, of what lies
+ * between the points `low` and `high` [m]. Nothing is drawn unless `draw` asks for it.
  */
+class Stage {
+  constructor(element, canvas, context, low, high) {
+    Object.assign(this, {element, canvas, context, low, high});
+    this.size = Math.hypot(...high.map((h, i) => h - low[i])) || 1;
+    this.middle = new THREE.Vector3(...low.map((l, i) => (l + high[i]) / 2));
+    this.overlays = [];
+    this.picks = [];
+    this.inks = [];
+    this.renderer = new THREE.WebGLRenderer({canvas, context, alpha: true, preserveDrawingBuffer: true});
+    this.renderer.setClearColor(0, 0);
+    this.overlay = addElement(element, "canvas", {className: "overlay"});
+    this.overlay.setAttribute("aria-hidden", "true");
+    this.paper = this.overlay.getContext("2d");
+    this.toolbar = addElement(element, "div", {className: "toolbar"});
+    this.toolbar.setAttribute("role", "toolbar");
+    this.addCamera();
+    this.onOverlay(paint => paintAxes(paint, this));
+    this.onOverlay(paint => drawScale(paint, this.shape(), (this.camera.top - this.camera.bottom) / this.camera.zoom));
+    this.addButtons();
+    canvas.addEventListener("keydown", event => this.press(event));
+    this.listenToClicks();
+    this.listenToPage();
+  }
+
+  addCamera() {
+    const far = 10 * this.size;
+    this.scene = new THREE.Scene();
+    this.camera = new THREE.OrthographicCamera(-1, 1, 1, -1, -far, far);
+    this.camera.up.set(0, 0, 1);
+    const light = new THREE.DirectionalLight(0xffffff, 0.75);
+    light.position.set(0.4, 0.7, 1);
+    this.camera.add(light);
+    this.scene.add(this.camera, new THREE.HemisphereLight(0xffffff, 0xb0b0b0, 0.45));
+    this.controls = Object.assign(new THREE.OrbitControls(this.camera, this.canvas),
+      {enableKeys: false, maxZoom: 1e5, minZoom: 0.02});
+    this.controls.addEventListener("change", () => this.draw());
+  }
+
+  addButtons() {
+    for (const {name, key, from} of views) {
+      addToolbar(this, name, "View from: " + name + " (key " + key + ")", () => this.showAll(from));
+    }
+    addToolbar(this, "All", "Show all (key 0)", () => this.showAll());
+    addToolbar(this, "+", "Zoom in (key +)", () => this.zoomBy(1.25));
+    addToolbar(this, "\u2212", "Zoom out (key -)", () => this.zoomBy(0.8));
+    addToolbar(this, "PNG", "Save the picture as PNG", () => this.savePicture());
+  }
+
+  // ---- Drawing ----
+
+  /** `paint(context, project)` draws over each picture; `project` gives the pixel of a point [m]. */
+  onOverlay(paint) { this.overlays.push(paint); }
+
+  /** A material's colour follows the page's style, light or dark. */
+  follow(material, name) {
+    this.inks.push({material, name});
+    return material;
+  }
+
+  /** Asks for a picture. */
+  draw() {
+    if (!this.isAsked) {
+      this.isAsked = true;
+      requestAnimationFrame(() => { this.isAsked = false; this.drawMoving(); });
+    }
+  }
+
+  drawNow() {
+    this.inks.forEach(({material, name}) => material.color.set(colour(name)));
+    this.renderer.render(this.scene, this.camera);
+    const {width, height} = this.shape();
+    const ratio = this.fullRatio();
+    this.paper.setTransform(ratio, 0, 0, ratio, 0, 0);
+    this.paper.clearRect(0, 0, width, height);
+    this.paper.font = "12px sans-serif";
+    this.paper.textBaseline = "middle";
+    const project = point => this.project(point);
+    this.overlays.forEach(paint => paint(this.paper, project));
+  }
+
+  /** Draws, coarsely while the picture moves where that takes long, as without a graphics card. */
+  drawMoving() {
+    const slow = 80; // ms
+    const begin = performance.now();
+    this.moves = begin - this.lastMove < 3000 ? this.moves + 1 : 0;
+    if (this.isSlow && this.moves > 2) {
+      this.resolve(0.5);
+      clearTimeout(this.rest);
+      this.rest = setTimeout(() => { this.resolve(this.fullRatio()); this.drawNow(); }, 300);
+    }
+    this.lastMove = begin;
+    this.drawNow();
+    const {context} = this;
+    context.readPixels(0, 0, 1, 1, context.RGBA, context.UNSIGNED_BYTE, new Uint8Array(4)); // waits for the picture
+    this.isSlow = this.isSlow || performance.now() - begin > slow;
+  }
+
+  /** Pixels of the picture to one of the page: two and more smooth the edges, and can be spared. */
+  fullRatio() { return Math.max(window.devicePixelRatio || 1, 2); }
+
+  resolve(ratio) {
+    if (this.renderer.getPixelRatio() !== ratio) {
+      this.renderer.setPixelRatio(ratio);
+    }
+  }
+
+  shape() { return {width: this.canvas.clientWidth || 1, height: this.canvas.clientHeight || 1}; }
+
+  /** Fits the picture into its place on the page. */
+  fit() {
+    const {width, height} = this.shape();
+    const up = 0.6 * this.size * Math.max(1, height / width);
+    const across = up * width / height;
+    Object.assign(this.camera, {left: -across, right: across, top: up, bottom: -up});
+    this.camera.updateProjectionMatrix();
+    this.resolve(this.fullRatio());
+    this.renderer.setSize(width, height, false);
+    this.overlay.width = this.canvas.width;
+    this.overlay.height = this.canvas.height;
+    if (!this.isFitted) {
+      this.isFitted = true;
+      this.showAll(views[3].from);
+    }
+    this.drawNow();
+  }
+
+  savePicture() {
+    this.resolve(this.fullRatio());
+    this.drawNow();
+    const picture = document.createElement("canvas");
+    Object.assign(picture, {width: this.canvas.width, height: this.canvas.height});
+    const target = picture.getContext("2d");
+    target.fillStyle = colour("--paper");
+    target.fillRect(0, 0, picture.width, picture.height);
+    target.drawImage(this.canvas, 0, 0);
+    target.drawImage(this.overlay, 0, 0);
+    picture.toBlob(blob => {
+      const link = document.createElement("a");
+      link.href = URL.createObjectURL(blob);
+      link.download = (document.title.replace(/[^\p{L}\p{N}._-]+/gu, "_") || "picture") + ".png";
+      link.click();
+      setTimeout(() => URL.revokeObjectURL(link.href), 10000);
+    });
+  }
+
+  // ---- The view ----
+
+  /** The pixel of a point [m], from the upper left. */
+  project(point) {
+    const p = new THREE.Vector3(...point).project(this.camera);
+    const {width, height} = this.shape();
+    return {x: (p.x + 1) / 2 * width, y: (1 - p.y) / 2 * height};
+  }
+
+  /** From the target to the camera. */
+  direction() { return this.camera.position.clone().sub(this.controls.target).normalize().toArray(); }
+
+  lookFrom(from, target = this.middle) {
+    this.controls.target.copy(target);
+    this.camera.position.copy(target).addScaledVector(new THREE.Vector3(...from).normalize(), 2.5 * this.size);
+    this.controls.update();
+    this.camera.updateMatrixWorld();
+    this.draw();
+  }
+
+  zoomTo(zoom) {
+    this.camera.zoom = Math.min(this.controls.maxZoom, Math.max(this.controls.minZoom, zoom));
+    this.camera.updateProjectionMatrix();
+    this.draw();
+  }
+
+  zoomBy(factor) { this.zoomTo(this.camera.zoom * factor); }
+
+  /** Looks at the middle, so that the stage's box and its axes fill the picture. */
+  showAll(from = this.direction()) {
+    const {low, high} = this;
+    const room = 130; // px, for axes and scale
+    this.lookFrom(from);
+    this.zoomTo(1);
+    const {width, height} = this.shape();
+    const corners = [0, 1, 2, 3, 4, 5, 6, 7].map(corner =>
+      this.project(low.map((l, axis) => (corner >> axis & 1 ? high[axis] : l))));
+    const across = Math.max(...corners.map(p => Math.abs(2 * p.x - width)), 1);
+    const upwards = Math.max(...corners.map(p => Math.abs(2 * p.y - height)), 1);
+    this.zoomTo(Math.max(0.5, Math.min((width - room) / across, (height - room) / upwards)));
+  }
+
+  /** Looks at a place, which is so wide [m], from where the camera is. */
+  goTo(point, width) {
+    this.zoomTo(Math.max(1, 0.35 * this.size / (width || this.size)));
+    this.lookFrom(this.direction(), new THREE.Vector3(...point));
+  }
+
+  turnBy(across, upwards) {
+    const [x, y, z] = this.direction();
+    const around = Math.atan2(y, x) + across;
+    const above = Math.max(-1.57, Math.min(1.57, Math.atan2(z, Math.hypot(x, y)) + upwards));
+    this.lookFrom([Math.cos(above) * Math.cos(around), Math.cos(above) * Math.sin(around), Math.sin(above)],
+      this.controls.target.clone());
+  }
+
+  moveBy(right, upwards) {
+    const step = 0.1 * this.camera.top / this.camera.zoom;
+    const shift = new THREE.Vector3(right * step, upwards * step, 0).applyQuaternion(this.camera.quaternion);
+    this.lookFrom(this.direction(), this.controls.target.clone().add(shift));
+  }
+
+  // ---- The reader ----
+
+  press(event) {
+    const arrow = {ArrowLeft: [-1, 0], ArrowRight: [1, 0], ArrowUp: [0, 1], ArrowDown: [0, -1]}[event.key];
+    const view = views.find(each => each.key === event.key);
+    const act = arrow && event.shiftKey ? () => this.moveBy(...arrow)
+      : arrow ? () => this.turnBy(0.1 * arrow[0], 0.1 * arrow[1])
+      : view ? () => this.showAll(view.from)
+      : {"0": () => this.showAll(), Home: () => this.showAll(), "+": () => this.zoomBy(1.25),
+        "=": () => this.zoomBy(1.25), "-": () => this.zoomBy(0.8)}[event.key];
+    if (act && !event.ctrlKey && !event.altKey && !event.metaKey) {
+      act();
+      event.preventDefault();
+    }
+  }
+
+  /** `pick(raycaster)` is called for a click or tap that does not turn the picture. */
+  onPick(pick) { this.picks.push(pick); }
+
+  listenToClicks() {
+    let pressed = null;
+    this.canvas.addEventListener("pointerdown", event => { pressed = event; });
+    this.canvas.addEventListener("pointerup", event => {
+      const isClick = pressed && pressed.button === 0 &&
+        Math.hypot(event.clientX - pressed.clientX, event.clientY - pressed.clientY) < 5;
+      pressed = null;
+      if (isClick) {
+        const place = this.canvas.getBoundingClientRect();
+        const ray = new THREE.Raycaster();
+        ray.setFromCamera({x: 2 * (event.clientX - place.left) / place.width - 1,
+          y: 1 - 2 * (event.clientY - place.top) / place.height}, this.camera);
+        this.picks.forEach(pick => pick(ray));
+      }
+    });
+  }
+
+  listenToPage() {
+    const print = isOn => () => {
+      document.documentElement.toggleAttribute("data-print", isOn); // dark pages print light
+      this.drawNow();
+    };
+    addEventListener("beforeprint", print(true));
+    addEventListener("afterprint", print(false));
+    matchMedia("(prefers-color-scheme: dark)").addEventListener("change", () => this.draw());
+    new ResizeObserver(() => this.fit()).observe(this.canvas);
+  }
+}
+
+/** A stage in `element`, or null, after a sentence for the reader, where the browser cannot draw. */
 function makeStage(element, {low, high}) {
   const canvas = addElement(element, "canvas", {className: "view", tabIndex: 0});
   canvas.setAttribute("role", "img");
@@ -81,215 +337,7 @@ function makeStage(element, {low, high}) {
     addElement(element, "p", {textContent: "This browser cannot draw in three dimensions (WebGL). All else on this page can be read."});
     return null;
   }
-  const renderer = new THREE.WebGLRenderer({canvas, context, alpha: true, preserveDrawingBuffer: true});
-  renderer.setClearColor(0, 0);
-  const overlay = addElement(element, "canvas", {className: "overlay"});
-  overlay.setAttribute("aria-hidden", "true");
-  const paper = overlay.getContext("2d");
-  const toolbar = addElement(element, "div", {className: "toolbar"});
-  toolbar.setAttribute("role", "toolbar");
-
-  const size = Math.hypot(...high.map((h, i) => h - low[i])) || 1;
-  const reach = size / 2;
-  const middle = new THREE.Vector3(...low.map((l, i) => (l + high[i]) / 2));
-  const scene = new THREE.Scene();
-  const camera = new THREE.OrthographicCamera(-1, 1, 1, -1, -20 * reach, 20 * reach);
-  camera.up.set(0, 0, 1);
-  camera.add(new THREE.DirectionalLight(0xffffff, 0.75));
-  camera.children[0].position.set(0.4, 0.7, 1);
-  scene.add(camera, new THREE.HemisphereLight(0xffffff, 0xb0b0b0, 0.45));
-  const controls = new THREE.OrbitControls(camera, canvas);
-  controls.enableKeys = false;
-  controls.maxZoom = 1e5;
-  controls.minZoom = 0.02;
-
-  const stage = {element, scene, camera, low, high, size};
-  const overlays = [];
-  const picks = [];
-  const inks = [];
-  let isAsked = false;
-
-  stage.onOverlay = paint => overlays.push(paint);
-  stage.onPick = pick => picks.push(pick);
-  /** A material's colour follows the page's style, light or dark. */
-  stage.follow = (material, name) => { inks.push({material, name}); return material; };
-  stage.draw = () => {
-    if (!isAsked) {
-      isAsked = true;
-      requestAnimationFrame(() => { isAsked = false; drawMoving(); });
-    }
-  };
-  const half = () => 1.2 * reach / camera.zoom;
-  const shape = () => ({width: canvas.clientWidth || 1, height: canvas.clientHeight || 1});
-  stage.project = point => {
-    const p = new THREE.Vector3(...point).project(camera);
-    const {width, height} = shape();
-    return {x: (p.x + 1) / 2 * width, y: (1 - p.y) / 2 * height};
-  };
-  stage.drawNow = () => {
-    for (const {material, name} of inks) {
-      material.color.set(colour(name));
-    }
-    renderer.render(scene, camera);
-    const {width, height} = shape();
-    const ratio = fullRatio();
-    paper.setTransform(ratio, 0, 0, ratio, 0, 0);
-    paper.clearRect(0, 0, width, height);
-    paper.font = "12px sans-serif";
-    paper.textBaseline = "middle";
-    for (const paint of overlays) {
-      paint(paper, stage.project);
-    }
-  };
-  // Two pixels and more to one of the page smooth the edges, and can be spared where that is slow.
-  const fullRatio = () => Math.max(window.devicePixelRatio || 1, 2);
-  const resolve = ratio => {
-    if (renderer.getPixelRatio() !== ratio) {
-      renderer.setPixelRatio(ratio);
-    }
-  };
-  // Where drawing takes long, as without a graphics card, the picture is coarse while it moves.
-  const slow = 80; // ms
-  let isSlow = false;
-  let lastMove = 0;
-  let rest = 0;
-  const drawMoving = () => {
-    const begin = performance.now();
-    const isMoving = begin - lastMove < 3000;
-    lastMove = begin;
-    if (isSlow && isMoving) {
-      resolve(0.5);
-      clearTimeout(rest);
-      rest = setTimeout(() => { resolve(fullRatio()); stage.drawNow(); }, 300);
-    }
-    stage.drawNow();
-    context.readPixels(0, 0, 1, 1, context.RGBA, context.UNSIGNED_BYTE, new Uint8Array(4)); // waits for the picture
-    isSlow = isSlow || performance.now() - begin > slow;
-  };
-  const fit = () => {
-    const {width, height} = shape();
-    const up = 1.2 * reach * Math.max(1, height / width);
-    Object.assign(camera, {left: -up * width / height, right: up * width / height, top: up, bottom: -up});
-    camera.updateProjectionMatrix();
-    resolve(fullRatio());
-    renderer.setSize(width, height, false);
-    overlay.width = canvas.width;
-    overlay.height = canvas.height;
-    stage.drawNow();
-  };
-
-  /** From the target to the camera. */
-  stage.direction = () => camera.position.clone().sub(controls.target).normalize().toArray();
-  stage.onOverlay(paint => paintAxes(paint, stage));
-  stage.onOverlay(paint => drawScale(paint, shape(), (camera.top - camera.bottom) / camera.zoom));
-
-  stage.lookFrom = (from, target = middle) => {
-    controls.target.copy(target);
-    camera.position.copy(target).addScaledVector(new THREE.Vector3(...from).normalize(), 5 * reach);
-    controls.update();
-    stage.draw();
-  };
-  stage.showAll = () => {
-    camera.zoom = 1;
-    camera.updateProjectionMatrix();
-    stage.lookFrom(stage.direction());
-  };
-  /** Looks at a place of that size [m] from where the camera is. */
-  stage.goTo = (point, width) => {
-    camera.zoom = Math.max(1, 0.35 * stage.size / (width || stage.size));
-    camera.updateProjectionMatrix();
-    stage.lookFrom(stage.direction(), new THREE.Vector3(...point));
-  };
-  stage.zoomBy = factor => {
-    camera.zoom = Math.min(controls.maxZoom, Math.max(controls.minZoom, camera.zoom * factor));
-    camera.updateProjectionMatrix();
-    stage.draw();
-  };
-  const turnBy = (across, upwards) => {
-    const offset = camera.position.clone().sub(controls.target);
-    const flat = Math.hypot(offset.x, offset.y);
-    const around = Math.atan2(offset.y, offset.x) + across;
-    const above = Math.max(-1.57, Math.min(1.57, Math.atan2(offset.z, flat) + upwards));
-    stage.lookFrom([Math.cos(above) * Math.cos(around), Math.cos(above) * Math.sin(around), Math.sin(above)],
-      controls.target.clone());
-  };
-  const moveBy = (right, upwards) => {
-    const unit = 0.2 * half();
-    const shift = new THREE.Vector3(right * unit, upwards * unit, 0).applyQuaternion(camera.quaternion);
-    stage.lookFrom(stage.direction(), controls.target.clone().add(shift));
-  };
-  stage.savePicture = () => {
-    resolve(fullRatio());
-    stage.drawNow();
-    const picture = document.createElement("canvas");
-    picture.width = canvas.width;
-    picture.height = canvas.height;
-    const target = picture.getContext("2d");
-    target.fillStyle = colour("--paper");
-    target.fillRect(0, 0, picture.width, picture.height);
-    target.drawImage(canvas, 0, 0);
-    target.drawImage(overlay, 0, 0);
-    picture.toBlob(blob => {
-      const link = document.createElement("a");
-      link.href = URL.createObjectURL(blob);
-      link.download = (document.title.replace(/[^\p{L}\p{N}._-]+/gu, "_") || "picture") + ".png";
-      link.click();
-      setTimeout(() => URL.revokeObjectURL(link.href), 10000);
-    });
-  };
-
-  for (const view of views) {
-    addToolbar(stage, view.name, "View from: " + view.name + " (key " + view.key + ")", () => stage.lookFrom(view.from));
-  }
-  addToolbar(stage, "All", "Show all (key 0)", stage.showAll);
-  addToolbar(stage, "+", "Zoom in (key +)", () => stage.zoomBy(1.25));
-  addToolbar(stage, "\u2212", "Zoom out (key -)", () => stage.zoomBy(0.8));
-  addToolbar(stage, "PNG", "Save the picture as PNG", stage.savePicture);
-
-  const arrows = {ArrowLeft: [-1, 0], ArrowRight: [1, 0], ArrowUp: [0, 1], ArrowDown: [0, -1]};
-  canvas.addEventListener("keydown", event => {
-    const view = views.find(each => each.key === event.key);
-    const arrow = arrows[event.key];
-    if (event.ctrlKey || event.altKey || event.metaKey) {
-      return;
-    } else if (arrow) {
-      event.shiftKey ? moveBy(...arrow) : turnBy(0.1 * arrow[0], 0.1 * arrow[1]);
-    } else if (view) {
-      stage.lookFrom(view.from);
-    } else if (event.key === "0" || event.key === "Home") {
-      stage.showAll();
-    } else if (event.key === "+" || event.key === "=") {
-      stage.zoomBy(1.25);
-    } else if (event.key === "-") {
-      stage.zoomBy(0.8);
-    } else {
-      return;
-    }
-    event.preventDefault();
-  });
-
-  let pressed = null;
-  canvas.addEventListener("pointerdown", event => { pressed = event; });
-  canvas.addEventListener("pointerup", event => {
-    const isClick = pressed && pressed.button === 0 &&
-      Math.hypot(event.clientX - pressed.clientX, event.clientY - pressed.clientY) < 5;
-    pressed = null;
-    if (isClick) {
-      const place = canvas.getBoundingClientRect();
-      const ray = new THREE.Raycaster();
-      ray.setFromCamera({x: 2 * (event.clientX - place.left) / place.width - 1,
-        y: 1 - 2 * (event.clientY - place.top) / place.height}, camera);
-      picks.forEach(pick => pick(ray));
-    }
-  });
-  controls.addEventListener("change", stage.draw);
-  matchMedia("(prefers-color-scheme: dark)").addEventListener("change", stage.draw);
-  // Dark pages print light.
-  addEventListener("beforeprint", () => { document.documentElement.dataset.print = ""; stage.drawNow(); });
-  addEventListener("afterprint", () => { delete document.documentElement.dataset.print; stage.drawNow(); });
-  new ResizeObserver(fit).observe(canvas);
-  stage.lookFrom(views[3].from);
-  return stage;
+  return new Stage(element, canvas, context, low, high);
 }
 
 /** A bar of a round length at the lower left; `metres` is the height of the picture. */
@@ -309,9 +357,9 @@ function drawScale(paint, {width, height}, metres) {
   drawText(paint, shortNumber(length) + " m", {x: end + 6, y: y - 3}, "left");
 }
 
-/** A button of the stage's toolbar, in front of earlier ones' end. Returns it. */
+/** Adds a button to the toolbar of a stage. Returns it. */
 function addToolbar(stage, label, title, onClick) {
-  const button = addElement(stage.element.querySelector(".toolbar"), "button", {type: "button", textContent: label, title});
+  const button = addElement(stage.toolbar, "button", {type: "button", textContent: label, title});
   button.setAttribute("aria-label", title);
   button.addEventListener("click", onClick);
   return button;

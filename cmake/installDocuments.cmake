@@ -27,5 +27,16 @@ endforeach()
 
 install(DIRECTORY ${installed}/ TYPE DOC)
 install(FILES CITATION.cff TYPE DOC)
+
+# The notices of the libraries that the programs contain, as their packages have them.
+set(notices ${PROJECT_BINARY_DIR}/NOTICES)
+file(WRITE ${notices} "The programs contain parts of these packages.\n")
+foreach(package IN ITEMS libcli11-dev nlohmann-json3-dev libjs-three)
+  if(EXISTS /usr/share/doc/${package}/copyright)
+    file(READ /usr/share/doc/${package}/copyright notice)
+    file(APPEND ${notices} "\n==== ${package} ====\n\n${notice}")
+  endif()
+endforeach()
+install(FILES ${notices} TYPE DOC)
 install(DIRECTORY docs/pictures DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs)
 install(DIRECTORY examples TYPE DOC USE_SOURCE_PERMISSIONS PATTERN *.md EXCLUDE)

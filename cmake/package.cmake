@@ -24,5 +24,7 @@ set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 at the waterline, sets up projects for the boundary-element solver Nemoh,
 writes the surface elevation of regular, JONSWAP and listed waves, and turns
 input files into JSON. sorvikCheck checks all of these before a long
-computation. The library and its headers come with it.")
+computation. sorvikView shows hulls, seas and projects as pages for a browser,
+which carry three.js, and writes them for ParaView. The library and its headers
+come with it.")
 include(CPack)

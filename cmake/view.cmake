@@ -1,10 +1,15 @@
 # The program sorvikView, where three.js, which its pages carry, and CLI11 are installed.
 set(SORVIK_THREE /usr/share/javascript/three CACHE PATH "Folder of three.js, release 111 or near")
-if(NOT EXISTS ${SORVIK_THREE}/three.min.js
-    OR NOT EXISTS ${SORVIK_THREE}/examples/js/controls/OrbitControls.js)
-  message(STATUS "sorvikView is left out: it needs three.js (on Debian libjs-three)")
-  return()
-endif()
+set(SORVIK_THREE_LICENCE /usr/share/doc/libjs-three/copyright CACHE FILEPATH
+  "Licence of three.js, which pages carry too")
+set(three ${SORVIK_THREE}/three.min.js ${SORVIK_THREE}/examples/js/controls/OrbitControls.js
+  ${SORVIK_THREE_LICENCE})
+foreach(file IN LISTS three)
+  if(NOT EXISTS ${file})
+    message(STATUS "sorvikView is left out: it needs three.js (on Debian libjs-three), and ${file} is missing")
+    return()
+  endif()
+endforeach()
 if(NOT TARGET commandLine)
   message(STATUS "sorvikView is left out: it needs CLI11 (on Debian libcli11-dev)")
   return()
@@ -12,6 +17,7 @@ endif()
 
 set(page ${PROJECT_SOURCE_DIR}/src/view/page)
 set(texts
+  libraryLicence ${SORVIK_THREE_LICENCE}
   libraryScript ${SORVIK_THREE}/three.min.js
   libraryScript ${SORVIK_THREE}/examples/js/controls/OrbitControls.js
   pageStyle ${page}/page.css

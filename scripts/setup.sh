@@ -5,10 +5,11 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-build_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev)
+build_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev libjs-three)
 test_packages=(libgtest-dev libgmock-dev gnuplot-nox libxml2-utils python3 parallel procps)
 check_packages=(clang clang-format clang-tidy libclang-rt-dev libbenchmark-dev shellcheck git doxygen
     pandoc mandoc groff-base busybox zsh fish python3-yaml)
+browser_packages=(chromium chromium-driver python3-selenium python3-vtk9 fonts-dejavu-core)
 package_packages=(dpkg-dev lintian pandoc debootstrap git)
 
 is_installed() {

@@ -90,7 +90,8 @@ void writePage(std::ostream& out, const pageContent& content, const pageAssets& 
         writeBase64(out, block.bytes);
         out << "</script>\n";
     }
-    out << "<script>\n"
+    out << "<script type=\"text/plain\" id=\"licence\">\nThis page contains parts of three.js:\n\n"
+        << assets.licence << "</script>\n<script>\n"
         << assets.library << "</script>\n<script>\n"
         << assets.script << "</script>\n</body>\n</html>\n";
 }

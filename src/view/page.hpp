@@ -25,6 +25,7 @@ struct pageNumbers {
 /// The scripts and the style that a page carries, as text that is put in as it is.
 struct pageAssets {
     std::string_view library; ///< what draws in three dimensions
+    std::string_view licence; ///< of the library
     std::string_view style;
     std::string_view script; ///< runs after the body is there
 };

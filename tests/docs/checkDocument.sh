@@ -21,15 +21,19 @@ done || failures=1
 if ! grep -q '^```console' "$root/$document"; then exit $failures; fi
 if grep -qE '^\$ (gnuplot|sorvik-plot)' "$root/$document" && ! command -v gnuplot >/dev/null; then exit 77; fi
 
-check=$(dirname "$1")/sorvikCheck
-if grep -q '^\$ sorvikCheck' "$root/$document" && ! [ -x "$check" ]; then exit 77; fi
+build=$(dirname "$1")
+for program in sorvikCheck sorvikView; do
+    if grep -q "^\$ $program" "$root/$document" && ! [ -x "$build/$program" ]; then exit 77; fi
+done
 
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 mkdir "$scratch/out" "$scratch/build"
 cp -r "$root/examples" "$root/share" "$scratch"
 cp "$1" "$scratch/build/sorvikPre"
-[ ! -x "$check" ] || cp "$check" "$scratch/build"
+for program in sorvikCheck sorvikView; do
+    [ ! -x "$build/$program" ] || cp "$build/$program" "$scratch/build"
+done
 cp "$root/tools/sorvik-run" "$root/tools/sorvik-plot" "$scratch/build"
 case $document in docs/*) folder=examples ;; *) folder=$(dirname "$document") ;; esac
 awk -f "$root/tests/docs/rerun.awk" "$root/$document" >"$scratch/commands"

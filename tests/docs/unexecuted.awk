@@ -3,4 +3,4 @@
 fence == "console" || (fence == "" && !/^    /) { next }
 { sub(/^ +/, "") }
 /^(scripts|\.ci)\// || /^\$ / { print; next }
-/^(sorvikPre|sorvikCheck|sorvik-run|sorvik-plot|gnuplot|awk|cmake|ctest|sh|bash) / && !/[A-Z][A-Z]|[<[][a-z]/ { print }
+/^(sorvikPre|sorvikCheck|sorvikView|sorvik-run|sorvik-plot|gnuplot|awk|cmake|ctest|sh|bash) / && !/[A-Z][A-Z]|[<[][a-z]/ { print }

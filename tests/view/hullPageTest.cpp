@@ -80,7 +80,7 @@ TEST(hullPage, showsNamesAsTheyAre) {
     const pageContent page =
         pageOf(viewed(tetrahedron(), "a/<script>&\"'\x01"), viewed(tetrahedron(), "b"));
     std::ostringstream text;
-    writePage(text, page, {"library", "style", "script"});
+    writePage(text, page, {"library", "licence", "style", "script"});
     EXPECT_THAT(text.str(), HasSubstr("<title>&lt;script&gt;&amp;&quot;&#39; , b</title>"));
     EXPECT_THAT(text.str(), Not(HasSubstr("<script>&")));
     EXPECT_THAT(text.str(), HasSubstr("id=\"hull1-nodes\""));

@@ -54,7 +54,7 @@ void run(const viewRequest& asked) {
     if (asked.pageFile.empty()) {
         return;
     }
-    const pageAssets assets = {libraryScript(), pageStyle(), pageScript()};
+    const pageAssets assets = {libraryScript(), libraryLicence(), pageStyle(), pageScript()};
     const auto write = [&](std::ostream& out) { writePage(out, content, assets); };
     if (!replace(asked.pageFile, write)) {
         throw cannotView("Cannot write " + asked.pageFile +

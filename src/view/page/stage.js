@@ -247,7 +247,7 @@ class Stage {
   /** Looks at the middle, so that the stage's box and its axes fill the picture. */
   showAll(from = this.direction()) {
     const {low, high} = this;
-    const room = 130; // px, for axes and scale
+    const room = {x: 180, y: 130}; // px, for axes and scale
     this.lookFrom(from);
     this.zoomTo(1);
     const {width, height} = this.shape();
@@ -255,7 +255,7 @@ class Stage {
       this.project(low.map((l, axis) => (corner >> axis & 1 ? high[axis] : l))));
     const across = Math.max(...corners.map(p => Math.abs(2 * p.x - width)), 1);
     const upwards = Math.max(...corners.map(p => Math.abs(2 * p.y - height)), 1);
-    this.zoomTo(Math.max(0.5, Math.min((width - room) / across, (height - room) / upwards)));
+    this.zoomTo(Math.max(0.5, Math.min((width - room.x) / across, (height - room.y) / upwards)));
   }
 
   /** Looks at a place, which is so wide [m], from where the camera is. */

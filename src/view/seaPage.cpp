@@ -114,15 +114,18 @@ std::string stageHtml(const surfaceRun& run, double peak) {
 std::string thinningText(const surfaceRun& run) {
     const std::size_t nodes = run.columns * run.rows;
     const std::size_t frames = run.frameTimes.size();
-    const std::string shares = shareText(frames, run.times.size(), "instants") + ", " +
-                               shareText(nodes, run.nodesOfRun, "nodes");
-    if (frames == run.times.size() && nodes == run.nodesOfRun) {
-        return "Every instant and every node of the run are shown: " + shares + ".";
+    const std::size_t instants = run.times.size();
+    if (frames == instants && nodes == run.nodesOfRun) {
+        return "All " + std::to_string(instants) + " instants and all " + std::to_string(nodes) +
+               " nodes of the run are shown.";
     }
     std::string text = everyText(run.everyInstant, "instant") + " and " +
-                       everyText(run.everyNode, "node") + " of the run are shown: ";
+                       everyText(run.everyNode, "node along x and y") +
+                       " of the run are shown: " + shareText(frames, instants, "instants") + ", " +
+                       shareText(nodes, run.nodesOfRun, "nodes") +
+                       ". The series below have every instant.";
     text.front() = 'E';
-    return text + shares + ". The series below have every instant.";
+    return text;
 }
 
 std::string gridHtml(const surfaceRun& run, float peak) {
@@ -208,10 +211,11 @@ figureLine lineOf(const spectrumEstimate& spectrum, const std::string& label) {
 std::string methodText(const spectrumEstimate& spectrum) {
     return "<p>Variance density by the method of P. D. Welch: the mean of " +
            std::to_string(spectrum.segments) +
-           " overlapping segments of the whole series, each under Hann's window; a value every " +
-           number(spectrum.step) +
-           " Hz. A start-up ramp is part of it. The curve ends where less than a thousandth of "
-           "the variance is left, and a little after.</p>\n";
+           " overlapping segments of the whole series, a start-up ramp included, each under Hann's "
+           "window. The resolution is " +
+           number(spectrum.resolution) +
+           " Hz. A curve ends a little after the frequency above which a thousandth of the "
+           "variance lies.</p>\n";
 }
 
 std::string spectraHtml(const surfaceRun& run) {

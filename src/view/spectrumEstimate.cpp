@@ -39,28 +39,41 @@ void transform(complexSeries& values) {
     }
 }
 
-std::size_t segmentLength(std::size_t count) {
-    constexpr std::size_t longest = 2048;
-    std::size_t length = 1;
-    while (2 * length <= count / 3 && length < longest) {
-        length *= 2;
+/// The first power of two from `least` on.
+std::size_t powerOfTwo(std::size_t least) {
+    std::size_t power = 1;
+    while (power < least) {
+        power *= 2;
     }
-    return length;
+    return power;
 }
 
-/// Adds the squares of the amplitudes of the segment from `first` on; `sums` has one for each
-/// frequency up to that of Nyquist.
-void addSegment(const std::vector<double>& values, std::size_t first, complexSeries& work,
+/// Takes the mean from the values and returns their variance.
+double centre(std::vector<double>& values) {
+    const auto count = static_cast<double>(values.size());
+    const double mean = std::accumulate(values.begin(), values.end(), 0.0) / count;
+    double variance = 0;
+    for (double& value : values) {
+        value -= mean;
+        variance += value * value / count;
+    }
+    return variance;
+}
+
+/// Adds the squares of the amplitudes of a segment. Zeros after it, up to the length of `work`,
+/// give values between its own frequencies. `sums` has one for each frequency up to that of
+/// Nyquist.
+void addSegment(const double* values, std::size_t length, complexSeries& work,
                 std::vector<double>& sums) {
-    const std::size_t length = work.size();
+    std::fill(work.begin(), work.end(), 0.0);
     for (std::size_t i = 0; i < length; ++i) {
-        const double window =
-            0.5 - 0.5 * std::cos(2 * pi * static_cast<double>(i) / static_cast<double>(length));
-        work[i] = window * values[first + i];
+        const double turn = 2 * pi * static_cast<double>(i) / static_cast<double>(length);
+        work[i] = (0.5 - 0.5 * std::cos(turn)) * values[i];
     }
     transform(work);
-    for (std::size_t i = 0; i <= length / 2; ++i) {
-        const bool isAlone = i == 0 || i == length / 2; // others stand for the negative one too
+    for (std::size_t i = 0; i < sums.size(); ++i) {
+        const bool isAlone =
+            i == 0 || i + 1 == sums.size(); // others stand for the negative one too
         sums[i] += (isAlone ? 1 : 2) * std::norm(work[i]);
     }
 }
@@ -90,22 +103,19 @@ spectrumEstimate estimateSpectrum(const std::vector<float>& elevations, double s
         return {};
     }
     std::vector<double> values(elevations.begin(), elevations.end());
-    const double mean =
-        std::accumulate(values.begin(), values.end(), 0.0) / static_cast<double>(count);
-    double variance = 0;
-    for (double& value : values) {
-        value -= mean;
-        variance += value * value / static_cast<double>(count);
-    }
+    const double variance = centre(values);
+    constexpr std::size_t longest = 2048;
+    const std::size_t length = std::min(count / 3, longest);
+    complexSeries work(powerOfTwo(2 * length));
     spectrumEstimate result;
-    complexSeries work(segmentLength(count));
-    const std::size_t length = work.size();
-    result.density.assign(length / 2 + 1, 0.0);
-    result.segments = (2 * count - 1) / length; // the last one ends with the series
-    for (std::size_t i = 0; i < result.segments; ++i) {
-        addSegment(values, i * (count - length) / (result.segments - 1), work, result.density);
+    result.resolution = 1 / (static_cast<double>(length) * step);
+    result.step = 1 / (static_cast<double>(work.size()) * step);
+    result.density.assign(work.size() / 2 + 1, 0.0);
+    const std::size_t shifts = (2 * (count - length) + length - 1) / length;
+    result.segments = shifts + 1; // the last one ends with the series
+    for (std::size_t i = 0; i <= shifts; ++i) {
+        addSegment(&values[i * (count - length) / shifts], length, work, result.density);
     }
-    result.step = 1 / (static_cast<double>(length) * step);
     const double sum = std::accumulate(result.density.begin(), result.density.end(), 0.0);
     if (!(sum > 0 && variance > 0)) {
         return {};

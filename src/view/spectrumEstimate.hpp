@@ -9,6 +9,7 @@ namespace sorvik {
 struct spectrumEstimate {
     double step = 0;             ///< between frequencies [Hz]; the first one is 0
     std::vector<double> density; ///< one-sided [m²/Hz]; empty where there is no estimate
+    double resolution = 0;       ///< 1 / duration of a segment [Hz]; `step` is finer
     std::size_t segments = 0;    ///< in the mean
 };
 

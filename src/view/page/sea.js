@@ -246,6 +246,8 @@ function showSea() {
     return;
   }
   stage.scene.add(sea.mesh);
+  // A flat thing seen from aside fills less of the height.
+  stage.zoomBy(Math.max(1, Math.min(1.5, 0.7 * section.clientWidth / section.clientHeight)));
   const byId = id => document.getElementById("sea-" + id);
   const [controls, play, slider, now, picked] = ["controls", "play", "time", "now", "picked"].map(byId);
   const moveCursors = makeCursors();

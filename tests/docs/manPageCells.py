@@ -20,4 +20,4 @@ wanted = [re.sub(r"\]\(#[^)]*\)|`|\[(?=[A-Z])", "", cell.replace(r"\|", "|")) fo
           for cell in re.split(r"(?<!\\)\|", row)]
 missing = [cell for cell in wanted if plain(cell) and plain(cell) not in cells]
 print("\n".join(missing) or f"{len(wanted)} cells are there.")
-sys.exit(bool(missing) or len(wanted) < 100)
+sys.exit(bool(missing) or len(wanted) < 50)

@@ -1,14 +1,13 @@
 #include "app/check/commands.hpp"
 #include "app/check/jsonReport.hpp"
+#include "app/programEntry.hpp"
 #include "base/files.hpp"
 #include "base/platform.hpp"
 #include "check/textReport.hpp"
 
-#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
-#include <new>
 
 namespace sorvik {
 
@@ -29,7 +28,7 @@ CLI::App& addCommand(CLI::App& app, request& asked, const commandText& text,
 
 namespace {
 
-enum status { isFine = 0, hasErrors = 1, cannotRun = 2 };
+enum status { isFine = 0, hasErrors = 1 };
 
 bool wantsColour() {
     return platform::isTerminal() && std::getenv("NO_COLOR") == nullptr;
@@ -88,13 +87,5 @@ int runCommandLine(int argc, const char** argv) {
 } // namespace sorvik
 
 int main(int argc, const char** argv) {
-    sorvik::platform::holdStandardStreams();
-    try {
-        return sorvik::runCommandLine(argc, argv);
-    } catch (const std::bad_alloc&) {
-        std::fputs("sorvikCheck: There is not enough memory for this check.\n", stderr);
-    } catch (const std::exception& error) {
-        std::fprintf(stderr, "sorvikCheck: %s\n", error.what());
-    }
-    return sorvik::cannotRun;
+    return sorvik::runProgram("sorvikCheck", [&] { return sorvik::runCommandLine(argc, argv); });
 }

@@ -1,13 +1,10 @@
+#include "app/programEntry.hpp"
 #include "app/view/assets.hpp"
 #include "app/view/commands.hpp"
-#include "base/files.hpp"
-#include "base/platform.hpp"
 #include "base/rewrite.hpp"
 
-#include <cstdio>
 #include <filesystem>
 #include <iostream>
-#include <new>
 
 namespace sorvik {
 
@@ -33,8 +30,6 @@ void sayWritten(const std::string& folder) {
 }
 
 namespace {
-
-enum status { isMade = 0, cannotRun = 2 };
 
 void requireOutput(const viewRequest& asked) {
     if (asked.pageFile.empty() && asked.vtkFolder.empty()) {
@@ -76,23 +71,15 @@ int runCommandLine(int argc, const char** argv) {
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? isMade : cannotRun;
+        return app.exit(error) == 0 ? 0 : cannotRun;
     }
     run(asked);
-    return isMade;
+    return 0;
 }
 
 } // namespace
 } // namespace sorvik
 
 int main(int argc, const char** argv) {
-    sorvik::platform::holdStandardStreams();
-    try {
-        return sorvik::runCommandLine(argc, argv);
-    } catch (const std::bad_alloc&) {
-        std::fputs("sorvikView: There is not enough memory for this view.\n", stderr);
-    } catch (const std::exception& error) {
-        std::fprintf(stderr, "sorvikView: %s\n", error.what());
-    }
-    return sorvik::cannotRun;
+    return sorvik::runProgram("sorvikView", [&] { return sorvik::runCommandLine(argc, argv); });
 }

@@ -1,5 +1,3 @@
-"use strict";
-
 /** From the deepest trough to the highest crest. Lightness ascends, so that it shows without colour too. */
 const seaColours = [[0, 28, 66], [0, 84, 143], [45, 150, 205], [148, 208, 232], [252, 247, 214]];
 
@@ -234,72 +232,88 @@ function makePlayer(sea, place, goTo, onChange) {
   };
 }
 
-/** The page of a surface: what is drawn, and its controls. */
+/** What a page of a surface shows at the moment: a place between frames, and a spot that was clicked. */
+class SeaView {
+  constructor(sea, stage) {
+    Object.assign(this, {sea, stage, place: 0, spot: null});
+    for (const name of ["controls", "play", "time", "now", "picked", "height", "speed"]) {
+      this[name] = document.getElementById("sea-" + name);
+    }
+    this.moveCursors = makeCursors();
+    this.probes = [...document.querySelectorAll(".series")].map(({dataset}) =>
+      ({name: dataset.name, x: Number(dataset.x), y: Number(dataset.y)}));
+    this.player = makePlayer(sea, () => this.place, place => this.goTo(place), isPlaying => {
+      this.play.textContent = isPlaying ? "Pause" : "Play";
+      this.picked.setAttribute("aria-live", isPlaying ? "off" : "polite");
+    });
+  }
+
+  goTo(place) {
+    const {sea, time, now} = this;
+    this.place = place;
+    sea.show(place);
+    const seconds = sea.timeAt(place);
+    time.value = Math.round(place);
+    now.value = seconds.toFixed(2) + " s";
+    time.setAttribute("aria-valuetext", now.value);
+    this.moveCursors(seconds);
+    this.tellSpot();
+    this.stage.draw();
+  }
+
+  tellSpot() {
+    if (this.spot) {
+      const {x, y} = this.spot;
+      this.picked.textContent = "x = " + x.toFixed(2) + " m, y = " + y.toFixed(2) + " m: elevation " +
+        this.sea.elevationAt(x, y).toFixed(3) + " m at " + this.now.value;
+    }
+  }
+
+  setHeights() {
+    this.sea.factor = Number(this.height.value);
+    this.goTo(this.place);
+  }
+
+  pick(ray) {
+    const hit = ray.intersectObject(this.sea.mesh)[0];
+    if (hit) {
+      this.spot = {x: hit.point.x, y: hit.point.y, name: ""};
+      this.goTo(this.place);
+    }
+  }
+
+  paint(paint, project) {
+    paintLegend(paint, this.sea);
+    const poles = this.spot ? [...this.probes, this.spot] : this.probes;
+    poles.forEach(pole => paintPole(paint, project, this.sea, this.stage, pole));
+  }
+
+  connect() {
+    this.play.addEventListener("click", this.player.toggle);
+    this.time.addEventListener("input", () => this.goTo(Number(this.time.value)));
+    this.height.addEventListener("change", () => this.setHeights());
+    this.speed.addEventListener("change", () => this.player.setSpeed(Number(this.speed.value)));
+    document.addEventListener("keydown", event => {
+      if (event.key === " " && !event.target.closest("button, input, select, a, summary")) {
+        event.preventDefault();
+        this.player.toggle();
+      }
+    });
+    this.stage.onPick(ray => this.pick(ray));
+    this.stage.onOverlay((paint, project) => this.paint(paint, project));
+    this.controls.hidden = false;
+  }
+}
+
+/** Runs the page of a surface; one of series only needs no script. */
 function showSea() {
   const section = document.querySelector(".stage");
-  if (!section) {
-    return;
+  const sea = section ? new ShownSea(section) : null;
+  const stage = sea ? makeStage(section, sea) : null;
+  if (stage) {
+    stage.scene.add(sea.mesh);
+    const view = new SeaView(sea, stage);
+    view.connect();
+    view.setHeights();
   }
-  const sea = new ShownSea(section);
-  const stage = makeStage(section, sea);
-  if (!stage) {
-    return;
-  }
-  stage.scene.add(sea.mesh);
-  // A flat thing seen from aside fills less of the height.
-  stage.zoomBy(Math.max(1, Math.min(1.5, 0.7 * section.clientWidth / section.clientHeight)));
-  const byId = id => document.getElementById("sea-" + id);
-  const [controls, play, slider, now, picked] = ["controls", "play", "time", "now", "picked"].map(byId);
-  const moveCursors = makeCursors();
-  const probes = [...document.querySelectorAll(".series")].map(({dataset}) =>
-    ({name: dataset.name, x: Number(dataset.x), y: Number(dataset.y)}));
-  let place = 0; // between frames
-  let spot = null; // that was clicked
-
-  const goTo = wanted => {
-    place = wanted;
-    sea.show(place);
-    const time = sea.timeAt(place);
-    slider.value = Math.round(place);
-    now.value = time.toFixed(2) + " s";
-    slider.setAttribute("aria-valuetext", now.value);
-    moveCursors(time);
-    if (spot) {
-      const elevation = sea.elevationAt(spot.x, spot.y);
-      picked.textContent = "x = " + spot.x.toFixed(2) + " m, y = " + spot.y.toFixed(2) + " m: elevation " +
-        elevation.toFixed(3) + " m at " + now.value;
-    }
-    stage.draw();
-  };
-  const player = makePlayer(sea, () => place, goTo, isPlaying => {
-    play.textContent = isPlaying ? "Pause" : "Play";
-    picked.setAttribute("aria-live", isPlaying ? "off" : "polite");
-  });
-  const setHeights = () => {
-    sea.factor = Number(byId("height").value);
-    goTo(place);
-  };
-  play.addEventListener("click", player.toggle);
-  slider.addEventListener("input", () => goTo(Number(slider.value)));
-  byId("height").addEventListener("change", setHeights);
-  byId("speed").addEventListener("change", event => player.setSpeed(Number(event.target.value)));
-  document.addEventListener("keydown", event => {
-    if (event.key === " " && !event.target.closest("button, input, select, a, summary")) {
-      event.preventDefault();
-      player.toggle();
-    }
-  });
-  stage.onPick(ray => {
-    const hit = ray.intersectObject(sea.mesh)[0];
-    if (hit) {
-      spot = {x: hit.point.x, y: hit.point.y, name: ""};
-      goTo(place);
-    }
-  });
-  stage.onOverlay((paint, project) => {
-    paintLegend(paint, sea);
-    (spot ? [...probes, spot] : probes).forEach(pole => paintPole(paint, project, sea, stage, pole));
-  });
-  controls.hidden = false;
-  setHeights();
 }

@@ -112,6 +112,18 @@ def check_sea(name):
         list.dispatchEvent(new Event("change"))"""))
 
 
+def check_print():
+    """A dark page prints light, with its picture."""
+    show(browser, str(place / "hull.html"), 1280, 900, dark=True)
+    corner, middle = browser.execute_script("""dispatchEvent(new Event("beforeprint"));
+        const copy = document.querySelector("canvas.printed");
+        const pixel = (x, y) => [...copy.getContext("2d").getImageData(x, y, 1, 1).data];
+        const pixels = [pixel(1, 1), pixel(copy.width / 2, copy.height / 2)];
+        dispatchEvent(new Event("afterprint"));
+        return pixels;""")
+    check("a dark page prints light", corner == [255, 255, 255, 255] and middle[0] > 1.15 * middle[2])
+
+
 def make(*arguments):
     subprocess.run([view, *arguments], check=True, cwd=place, stdout=subprocess.DEVNULL)
 
@@ -169,6 +181,7 @@ with tempfile.TemporaryDirectory() as folder:
         prepare()
         for size in sizes:
             check_pages(size)
+        check_print()
     finally:
         browser.quit()
 sys.exit(1 if failures else 0)

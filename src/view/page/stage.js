@@ -181,6 +181,9 @@ class Stage {
 
   /** Fits the picture into its place on the page. */
   fit() {
+    if (this.canvas.clientWidth === 0) { // while the page prints
+      return;
+    }
     const {width, height} = this.shape();
     const up = 0.6 * this.size * Math.max(1, height / width);
     const across = up * width / height;
@@ -197,17 +200,22 @@ class Stage {
     this.drawNow();
   }
 
-  savePicture() {
+  /** The picture with all that is drawn over it. */
+  compose() {
     this.resolve(this.fullRatio());
     this.drawNow();
-    const picture = document.createElement("canvas");
-    Object.assign(picture, {width: this.canvas.width, height: this.canvas.height});
+    const {width, height} = this.canvas;
+    const picture = Object.assign(document.createElement("canvas"), {width, height, className: "printed"});
     const target = picture.getContext("2d");
     target.fillStyle = colour("--paper");
-    target.fillRect(0, 0, picture.width, picture.height);
+    target.fillRect(0, 0, width, height);
     target.drawImage(this.canvas, 0, 0);
     target.drawImage(this.overlay, 0, 0);
-    picture.toBlob(blob => {
+    return picture;
+  }
+
+  savePicture() {
+    this.compose().toBlob(blob => {
       const link = document.createElement("a");
       link.href = URL.createObjectURL(blob);
       link.download = (document.title.replace(/[^\p{L}\p{N}._-]+/gu, "_") || "picture") + ".png";
@@ -315,12 +323,18 @@ class Stage {
   }
 
   listenToPage() {
-    const print = isOn => () => {
-      document.documentElement.toggleAttribute("data-print", isOn); // dark pages print light
-      this.drawNow();
-    };
-    addEventListener("beforeprint", print(true));
-    addEventListener("afterprint", print(false));
+    // Dark pages print light, and a copy of the picture, since sizes differ on paper.
+    let printed = null;
+    addEventListener("beforeprint", () => {
+      document.documentElement.dataset.print = "";
+      printed = this.compose();
+      this.element.append(printed);
+    });
+    addEventListener("afterprint", () => {
+      delete document.documentElement.dataset.print;
+      printed.remove();
+      this.draw();
+    });
     matchMedia("(prefers-color-scheme: dark)").addEventListener("change", () => this.draw());
     new ResizeObserver(() => this.fit()).observe(this.canvas);
   }

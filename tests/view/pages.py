@@ -8,7 +8,7 @@ import tempfile
 from browser import settle, show, start
 
 pre, view, examples = sys.argv[1:4]
-sizes = {"desktop": (1280, 900), "phone": (390, 844)}
+sizes = {"desktop": (1100, 720), "phone": (390, 844)}
 failures = []
 
 # Numbers that stand for the whole picture: a hash of all its pixels, and how many of them are painted, of the

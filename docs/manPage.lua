@@ -45,6 +45,11 @@ local function Link(link)
     return link.content
 end
 
+--- Terminals show no pictures.
+local function Image()
+    return {}
+end
+
 --- A section begins without a paragraph macro.
 local function Blocks(blocks)
     for i = 2, #blocks do
@@ -52,7 +57,9 @@ local function Blocks(blocks)
             blocks[i] = pandoc.Plain(blocks[i].content)
         end
     end
-    return blocks
+    return blocks:filter(function(block)
+        return #(block.content or {1}) > 0 or block.t == "HorizontalRule"
+    end)
 end
 
-return {{Table = Table}, {Code = Code, CodeBlock = CodeBlock, Link = Link, Blocks = Blocks}}
+return {{Table = Table}, {Code = Code, CodeBlock = CodeBlock, Image = Image, Link = Link, Blocks = Blocks}}

@@ -31,6 +31,7 @@ struct commandText {
     std::string description;
     std::string subjectName;
     std::string subjectDescription;
+    std::string example; ///< arguments after the command
 };
 
 /// Adds a command with its subject and the options that all commands have. Where it is given, it

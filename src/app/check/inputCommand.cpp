@@ -11,7 +11,7 @@ void addInputCommand(CLI::App& app, request& asked) {
     CLI::App& command =
         addCommand(app, asked,
                    {"input", "Check an input file: keys, values, files", "CASE",
-                    "Input file, such as case.m or case.json"},
+                    "Input file, such as case.m or case.json", "mySea.m --task wave"},
                    [&asked, options] { return checkInput(asked.subject, *options); });
     const std::map<std::string, inputTask> tasks = {{"nemoh", inputTask::nemoh},
                                                     {"wave", inputTask::wave}};

@@ -14,6 +14,7 @@ namespace sorvik {
 CLI::App& addCommand(CLI::App& app, request& asked, const commandText& text,
                      std::function<report()> check) {
     CLI::App& command = *app.add_subcommand(text.name, text.description);
+    command.footer("Example: sorvikCheck " + text.name + " " + text.example);
     command.add_option(text.subjectName, asked.subject, text.subjectDescription)->required();
     command
         .add_option("--json", asked.jsonFile, "Write all as JSON; - for standard output, no text")

@@ -44,6 +44,7 @@ void addSeaView(CLI::App& app, viewRequest& asked);
 struct viewText {
     std::string name;
     std::string description;
+    std::string example; ///< arguments after the command
 };
 
 /// Adds a command with the options that all commands have. Where it is given, it sets `asked`,

@@ -47,7 +47,9 @@ void writeHullFiles(const std::string& folder, const std::vector<viewedHull>& hu
 void addHullView(CLI::App& app, viewRequest& asked) {
     const auto wanted = std::make_shared<hullViewRequest>(hullViewRequest{asked.sources});
     CLI::App& command =
-        addView(app, asked, {"hull", "Show meshes, the waterline and what sorvikCheck finds"},
+        addView(app, asked,
+                {"hull", "Show meshes, the waterline and what sorvikCheck finds",
+                 "barge.stl -o barge.html --level 0.5"},
                 [&asked, wanted] { return makeHullView(asked.vtkFolder, *wanted); });
     command.add_option("MESH", wanted->meshes, "Meshes: .stl, .gdf or Nemoh's .dat")->required();
     command

@@ -11,6 +11,7 @@ namespace sorvik {
 CLI::App& addView(CLI::App& app, viewRequest& asked, const viewText& text,
                   std::function<pageContent()> make) {
     CLI::App& command = *app.add_subcommand(text.name, text.description);
+    command.footer("Example: sorvikView " + text.name + " " + text.example);
     command.add_option("-o,--output", asked.pageFile, "The page to write")->type_name("FILE.html");
     command.add_option("--vtk", asked.vtkFolder, "Write files for ParaView into this folder")
         ->type_name("FOLDER");

@@ -25,15 +25,17 @@ void writeSurface(const std::string& vtkFolder, const std::string& folder, const
 
 void addSeaView(CLI::App& app, viewRequest& asked) {
     const auto wanted = std::make_shared<seaViewRequest>();
-    CLI::App& command =
-        addView(app, asked, {"sea", "Show the surface of a run of -waveElevation, moving"},
-                [&asked, wanted] {
-                    const surfaceRun run = readSurfaceRun(wanted->folder, wanted->limits);
-                    if (!asked.vtkFolder.empty()) {
-                        writeSurface(asked.vtkFolder, wanted->folder, run);
-                    }
-                    return seaPage(wanted->folder, run);
-                });
+    CLI::App& command = addView(app, asked,
+                                {"sea", "Show the surface of a run of -waveElevation, moving",
+                                 "mySea -o sea.html --probe 0 0 --probe 50 20"},
+                                [&asked, wanted] {
+                                    const surfaceRun run =
+                                        readSurfaceRun(wanted->folder, wanted->limits);
+                                    if (!asked.vtkFolder.empty()) {
+                                        writeSurface(asked.vtkFolder, wanted->folder, run);
+                                    }
+                                    return seaPage(wanted->folder, run);
+                                });
     command.add_option("FOLDER", wanted->folder, "Folder with waveElevation.dat")
         ->required()
         ->each([&asked](const std::string& folder) {

@@ -62,10 +62,13 @@ class ShownHull {
   addSurfaces() {
     const wet = [];
     const dry = [];
+    const isPlace = node => Number.isFinite(this.nodes[3 * node] + this.nodes[3 * node + 1] + this.nodes[3 * node + 2]);
     for (let i = 0; i < this.faces.length; i += 3) {
       const [a, b, c] = [this.faces[i], this.faces[i + 1], this.faces[i + 2]];
-      const isWet = [a, b, c].every(node => this.nodes[3 * node + 2] <= this.level);
-      (isWet ? wet : dry).push(a, b, c);
+      if (isPlace(a) && isPlace(b) && isPlace(c)) {
+        const isWet = [a, b, c].every(node => this.nodes[3 * node + 2] <= this.level);
+        (isWet ? wet : dry).push(a, b, c);
+      }
     }
     const surface = (geometry, value, nearer) => {
       const material = new THREE.MeshPhongMaterial({color: value, specular: 0x181818, shininess: 12, flatShading: true,
@@ -74,14 +77,8 @@ class ShownHull {
       this.group.add(mesh);
       return mesh;
     };
-    const indexed = index => {
-      const geometry = new THREE.BufferGeometry();
-      geometry.setAttribute("position", this.position);
-      geometry.setIndex(new THREE.BufferAttribute(index, 1));
-      return geometry;
-    };
-    const pieces = new THREE.BufferGeometry();
-    pieces.setAttribute("position", new THREE.BufferAttribute(numbersOf(this.prefix + "pieces", Float32Array), 3));
+    const indexed = index => this.stage.geometryOf(this.position, index);
+    const pieces = this.stage.geometryOf(new THREE.BufferAttribute(numbersOf(this.prefix + "pieces", Float32Array), 3));
     this.wet = surface(indexed(new Uint32Array(wet)), this.colours[0], 0);
     this.dry = surface(indexed(new Uint32Array(dry)), this.colours[1], 0);
     this.pieces = surface(pieces, this.colours[0], 1);
@@ -90,9 +87,8 @@ class ShownHull {
   }
 
   addLines(points, material, parent = this.group) {
-    const geometry = new THREE.BufferGeometry();
-    geometry.setAttribute("position", new THREE.BufferAttribute(new Float32Array(points), 3));
-    const lines = new THREE.LineSegments(geometry, material);
+    const corners = new THREE.BufferAttribute(new Float32Array(points), 3);
+    const lines = new THREE.LineSegments(this.stage.geometryOf(corners), material);
     parent.add(lines);
     return lines;
   }
@@ -106,8 +102,7 @@ class ShownHull {
       corners.push(ax, ay, az - high, bx, by, bz - high, bx, by, bz + high,
         ax, ay, az - high, bx, by, bz + high, ax, ay, az + high);
     }
-    const geometry = new THREE.BufferGeometry();
-    geometry.setAttribute("position", new THREE.Float32BufferAttribute(corners, 3));
+    const geometry = this.stage.geometryOf(new THREE.Float32BufferAttribute(corners, 3));
     const band = new THREE.Mesh(geometry, this.stage.follow(new THREE.MeshBasicMaterial({side: THREE.DoubleSide}), "--waterline"));
     band.add(this.addLines(points, band.material));
     this.group.add(band);
@@ -136,9 +131,7 @@ class ShownHull {
       edges[2 * i] = at(i);
       edges[2 * i + 1] = at(i % 3 === 2 ? i - 2 : i + 1);
     }
-    const geometry = new THREE.BufferGeometry();
-    geometry.setAttribute("position", mesh.geometry.attributes.position);
-    geometry.setIndex(new THREE.BufferAttribute(edges, 1));
+    const geometry = this.stage.geometryOf(mesh.geometry.attributes.position, edges);
     const lines = new THREE.LineSegments(geometry, this.stage.follow(
       new THREE.LineBasicMaterial({transparent: true, opacity: 0.55}), "--edges"));
     mesh.add(lines);
@@ -208,9 +201,7 @@ class ShownFinding {
         index.push(...this.hull.faces.subarray(3 * panel - 3, 3 * panel));
       }
     }
-    const geometry = new THREE.BufferGeometry();
-    geometry.setAttribute("position", this.hull.position);
-    geometry.setIndex(new THREE.BufferAttribute(new Uint32Array(index), 1));
+    const geometry = this.hull.stage.geometryOf(this.hull.position, new Uint32Array(index));
     this.mesh = new THREE.Mesh(geometry, new THREE.MeshBasicMaterial({color: this.style.colour, side: THREE.DoubleSide,
       transparent: true, opacity: 0.6, depthWrite: false}));
     this.mesh.visible = this.isShown;
@@ -370,8 +361,7 @@ function addPanelInfo(stage, hulls) {
   const info = addElement(row, "output", {textContent: "Click on a panel, or give its number."});
   const marked = stage.follow(new THREE.MeshBasicMaterial({side: THREE.DoubleSide, depthTest: false, transparent: true,
     opacity: 0.65}), "--accent");
-  const geometry = new THREE.BufferGeometry();
-  geometry.setAttribute("position", new THREE.BufferAttribute(new Float32Array(9), 3));
+  const geometry = stage.geometryOf(new THREE.BufferAttribute(new Float32Array(9), 3));
   const mark = new THREE.Mesh(geometry, marked);
   mark.visible = false;
   mark.frustumCulled = false;

@@ -76,6 +76,7 @@ class Stage {
     Object.assign(this, {element, canvas, context, low, high});
     this.size = Math.hypot(...high.map((h, i) => h - low[i])) || 1;
     this.middle = new THREE.Vector3(...low.map((l, i) => (l + high[i]) / 2));
+    this.sphere = new THREE.Sphere(this.middle, this.size);
     this.overlays = [];
     this.picks = [];
     this.inks = [];
@@ -120,6 +121,17 @@ class Stage {
   }
 
   // ---- Drawing ----
+
+  /** A geometry in the stage of corners, three numbers each, which `index` lists where it is given. */
+  geometryOf(corners, index) {
+    const geometry = new THREE.BufferGeometry();
+    geometry.setAttribute("position", corners);
+    if (index) {
+      geometry.setIndex(new THREE.BufferAttribute(index, 1));
+    }
+    geometry.boundingSphere = this.sphere; // which it need not look for, among corners that may not be finite
+    return geometry;
+  }
 
   /** `paint(context, project)` draws over each picture; `project` gives the pixel of a point [m]. */
   onOverlay(paint) { this.overlays.push(paint); }
@@ -268,6 +280,9 @@ class Stage {
 
   /** Looks at a place, which is so wide [m], from where the camera is. */
   goTo(point, width) {
+    if (!point.every(Number.isFinite)) {
+      return;
+    }
     this.zoomTo(Math.max(1, 0.35 * this.size / (width || this.size)));
     this.lookFrom(this.direction(), new THREE.Vector3(...point));
   }

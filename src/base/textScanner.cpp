@@ -127,9 +127,9 @@ const char* readPlain(const char* begin, const char* end, T& value) {
 
 } // namespace
 
-textScanner::textScanner(std::istream& source)
+textScanner::textScanner(std::istream& source, std::size_t longestNumber)
     : in_(source), block_(blockSize), next_(block_.data()), end_(block_.data()),
-      hasFailed_(!source.good()) {}
+      longestNumber_(longestNumber), hasFailed_(!source.good()) {}
 
 /// What every extraction asks first: reading on after the end is a failure.
 bool textScanner::startExtraction() {
@@ -178,6 +178,15 @@ void textScanner::skipWhile() {
 void textScanner::skipSpace() {
     if (startExtraction()) {
         skipWhile<true>();
+    }
+}
+
+void textScanner::skipBlanks() {
+    if (!startExtraction()) {
+        return;
+    }
+    while (atCharacter() && (*next_ == ' ' || *next_ == '\t')) {
+        ++next_;
     }
 }
 
@@ -236,7 +245,10 @@ template <class T>
 bool textScanner::readAsStream(T& value) {
     std::ptrdiff_t length = 0;
     while ((length < end_ - next_ || refill()) && isNumeric(next_[length])) {
-        ++length;
+        if (static_cast<std::size_t>(++length) > longestNumber_) {
+            hasFailed_ = true;
+            return false;
+        }
     }
     const bool isLast = length == end_ - next_;
     classicText text(std::string_view(next_, static_cast<std::size_t>(length)));

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <iosfwd>
+#include <limits>
 #include <vector>
 
 namespace sorvik {
@@ -13,8 +14,10 @@ namespace sorvik {
 /// so that nothing else may read from it.
 class textScanner {
 public:
-    /// The stream must outlive the scanner.
-    explicit textScanner(std::istream& source);
+    /// The stream must outlive the scanner. A number of more than `longestNumber` characters, with
+    /// leading zeros, is a failure, so that memory is bounded.
+    explicit textScanner(std::istream& source,
+                         std::size_t longestNumber = std::numeric_limits<std::size_t>::max());
 
     /// Neither at the end nor failed.
     bool good() const { return !ended_ && !hasFailed_; }
@@ -24,6 +27,8 @@ public:
 
     /// As `in >> std::ws`.
     void skipSpace();
+    /// Moves past blanks and tabs, but no further than the end of the line.
+    void skipBlanks();
     /// As `in >> word`.
     void skipWord();
     /// As `std::getline(in, line)`.
@@ -50,6 +55,7 @@ private:
     std::vector<char> block_;
     const char* next_;
     const char* end_;
+    std::size_t longestNumber_;
     std::size_t taken_ = 0; ///< characters that the block has held so far
     bool ended_ = false;
     bool hasFailed_;

@@ -44,10 +44,9 @@ float peakOf(const std::vector<float>& elevations) {
 std::vector<short> integersOf(const std::vector<float>& elevations, float peak) {
     std::vector<short> integers;
     integers.reserve(elevations.size());
-    const float scale = peak > 0 ? integerPeak / peak : 0;
     for (const float each : elevations) {
-        const float scaled = std::clamp(each * scale, -integerPeak, integerPeak);
-        integers.push_back(static_cast<short>(std::lround(scaled)));
+        const float share = peak > 0 ? each / peak : 0;
+        integers.push_back(static_cast<short>(std::lround(share * integerPeak)));
     }
     return integers;
 }
@@ -128,7 +127,7 @@ std::string thinningText(const surfaceRun& run) {
     return text;
 }
 
-std::string gridHtml(const surfaceRun& run, float peak) {
+std::string gridHtml(const surfaceRun& run, double peak) {
     return stageHtml(run, peak) + "<p>" + thinningText(run) +
            " The elevations of the surface are rounded to 1/32767 of the "
            "largest, " +
@@ -144,7 +143,8 @@ std::string nameOf(const surfaceRun& run, const surfaceProbe& probe) {
 std::string rowHtml(const surfaceRun& run, const surfaceProbe& probe) {
     double sum = 0;
     double squares = 0;
-    for (const double each : probe.elevations) {
+    for (const float elevation : probe.elevations) {
+        const auto each = static_cast<double>(elevation);
         sum += each;
         squares += each * each;
     }
@@ -252,7 +252,7 @@ pageContent seaPage(const std::string& name, const surfaceRun& run) {
     page.title = name;
     if (run.isGrid()) {
         const float peak = peakOf(run.frames);
-        page.body = gridHtml(run, peak);
+        page.body = gridHtml(run, static_cast<double>(peak));
         page.numbers.emplace_back("sea-x", floatsOf(run.x));
         page.numbers.emplace_back("sea-y", floatsOf(run.y));
         page.numbers.emplace_back("sea-times", floatsOf(run.frameTimes));

@@ -1,5 +1,6 @@
 #include "view/surfaceRun.hpp"
 
+#include "base/excerpt.hpp"
 #include "base/files.hpp"
 #include "base/numberText.hpp"
 #include "base/textScanner.hpp"
@@ -9,6 +10,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <filesystem>
 
 // waveDomain.dat: the sizes of the grid along x and y [m] and its numbers of cells, in one line. In
 // the table its nodes run along x first.
@@ -55,22 +57,43 @@ struct grid {
     std::size_t nodes() const { return x.nodes() * y.nodes(); }
 };
 
-grid readGrid(const std::string& file) {
-    std::ifstream in = files::open(file);
-    if (!in.is_open()) {
-        throw cannotCheck("Cannot read " + file + ". Give a folder whose files can be read.");
+/// Opens a file that can be read twice and comes to an end.
+std::ifstream openSurface(const std::string& file) {
+    std::error_code ignored;
+    std::ifstream in;
+    if (std::filesystem::is_regular_file(file, ignored)) {
+        in = files::open(file);
     }
-    textScanner scanner(in);
+    if (!in.is_open()) {
+        throw cannotCheck("Cannot read " + file +
+                          ". Give the folder that sorvikPre -waveElevation wrote with -o.");
+    }
+    return in;
+}
+
+/// What a message shows of the first line.
+std::string startOf(const std::string& file) {
+    std::ifstream in = openSurface(file);
+    std::string start(100, '\0');
+    in.read(start.data(), static_cast<std::streamsize>(start.size()));
+    start.resize(static_cast<std::size_t>(in.gcount()));
+    return excerpt(start.substr(0, start.find_first_of("\r\n")));
+}
+
+grid readGrid(const std::string& file) {
+    std::ifstream in = openSurface(file);
+    textScanner scanner(in, longestSurfaceNumber);
     grid read;
     const bool isRead = scanner.read(read.x.size) && scanner.read(read.y.size) &&
                         scanner.read(read.x.cells) && scanner.read(read.y.cells);
     scanner.skipSpace();
-    if (!isRead || scanner.good() || read.x.cells < 1 || read.y.cells < 1) {
-        refuseSurface(
-            file, 1,
-            "text that is no grid, expected two sizes [m] and two numbers of cells of at least "
-            "1",
-            makeSurfaceAgain);
+    const bool isInRange =
+        isSingle(read.x.size) && isSingle(read.y.size) && read.x.cells >= 1 && read.y.cells >= 1;
+    if (!isRead || scanner.good() || !isInRange) {
+        refuseSurface(file, 1,
+                      "\"" + startOf(file) +
+                          "\", expected two sizes [m] and two numbers of cells of at least 1",
+                      makeSurfaceAgain);
     }
     const std::int64_t nodes = (std::int64_t(read.x.cells) + 1) * (std::int64_t(read.y.cells) + 1);
     if (nodes > std::int64_t(mostNodes)) {
@@ -90,7 +113,8 @@ public:
           limits_(limits) {}
 
     surfaceRun read() {
-        shape_ = lookAtSurface(table_);
+        std::ifstream in = openSurface(table_);
+        shape_ = lookAtSurface(in, table_);
         if (shape_.lines == 0 || shape_.words < 2) {
             refuseSurface(table_, 1,
                           "no elevations, expected the time and an elevation for each probe",
@@ -205,7 +229,7 @@ private:
     }
 
     void readTable() {
-        std::ifstream in = files::open(table_);
+        std::ifstream in = openSurface(table_);
         surfaceTable reader(in, table_, run_.nodesOfRun);
         while (run_.times.size() < shape_.lines && reader.next()) {
             if (run_.isGrid() && run_.times.size() % run_.everyInstant == 0) {

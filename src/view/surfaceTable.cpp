@@ -1,11 +1,11 @@
 #include "view/surfaceTable.hpp"
 
-#include "base/files.hpp"
 #include "base/numberText.hpp"
 #include "check/finding.hpp"
 
 #include <algorithm>
 #include <cmath>
+#include <istream>
 #include <utility>
 
 namespace sorvik {
@@ -15,12 +15,7 @@ void refuseSurface(const std::string& file, std::size_t line, const std::string&
     throw cannotCheck(file + ", line " + std::to_string(line) + ": found " + fault + ". " + cure);
 }
 
-surfaceTableShape lookAtSurface(const std::string& file) {
-    std::ifstream in = files::open(file);
-    if (!in.is_open()) {
-        throw cannotCheck("Cannot read " + file +
-                          ". Give the folder that sorvikPre -waveElevation wrote with -o.");
-    }
+surfaceTableShape lookAtSurface(std::istream& in, const std::string& file) {
     std::vector<char> block(std::size_t(1) << 18);
     surfaceTableShape shape;
     bool isWord = false;
@@ -43,14 +38,14 @@ surfaceTableShape lookAtSurface(const std::string& file) {
 }
 
 surfaceTable::surfaceTable(std::istream& in, std::string file, std::size_t nodes)
-    : scanner_(in), file_(std::move(file)), row_(nodes) {}
+    : scanner_(in, longestSurfaceNumber), file_(std::move(file)), row_(nodes) {}
 
 bool surfaceTable::next() {
     if (!isLine()) {
         return false;
     }
     const double former = time_;
-    time_ = number<double>();
+    time_ = number<double>(1);
     if (time_ < former) {
         fail("the time " + numberText(time_) + " s after " + numberText(former) +
                  " s, expected times that ascend",
@@ -61,7 +56,7 @@ bool surfaceTable::next() {
         if (isLineEnd()) {
             failLength(std::to_string(i));
         }
-        row_[i] = number<float>();
+        row_[i] = number<float>(i + 2);
     }
     endLine();
     return true;
@@ -75,7 +70,9 @@ void surfaceTable::failLength(const std::string& found) const {
     fail(found + " elevations, expected " + std::to_string(row_.size()), makeSurfaceAgain);
 }
 
+/// Whether nothing but blanks is left of the line.
 bool surfaceTable::isLineEnd() {
+    scanner_.skipBlanks();
     const int c = scanner_.good() ? scanner_.peek() : -1;
     return c == '\n' || c == '\r' || c == -1;
 }
@@ -96,10 +93,12 @@ bool surfaceTable::isLine() {
 }
 
 template <class T>
-T surfaceTable::number() {
+T surfaceTable::number(std::size_t column) {
     T value(0);
-    if (!scanner_.read(value) || !std::isfinite(value)) {
-        fail("text that is not a finite number, expected the time or an elevation",
+    if (!scanner_.read(value) || !isSingle(static_cast<double>(value))) {
+        fail("text in column " + std::to_string(column) +
+                 " that is not a finite number of single precision, expected the " +
+                 (column == 1 ? "time" : "elevation"),
              makeSurfaceAgain);
     }
     return value;

@@ -2,6 +2,7 @@
 
 #include "base/textScanner.hpp"
 
+#include <cmath>
 #include <cstddef>
 #include <iosfwd>
 #include <limits>
@@ -18,18 +19,26 @@ constexpr const char* makeSurfaceAgain = "Run sorvikPre -waveElevation again.";
 [[noreturn]] void refuseSurface(const std::string& file, std::size_t line, const std::string& fault,
                                 const std::string& cure);
 
+/// Characters of a number in the files of a surface; far more than any program writes.
+constexpr std::size_t longestSurfaceNumber = 1000;
+
+/// Whether single precision, in which pages and files hold numbers, has room for `value`.
+inline bool isSingle(double value) {
+    return std::fabs(value) <= double(std::numeric_limits<float>::max());
+}
+
 /// What a first look at a table shows.
 struct surfaceTableShape {
     std::size_t lines = 0;
     std::size_t words = 0; ///< in the first line
 };
 
-/// Counts the lines of a file and the words of the first, which takes a small part of the time to
-/// read its numbers. A file that cannot be read throws `cannotCheck`.
-surfaceTableShape lookAtSurface(const std::string& file);
+/// Counts the lines of a stream, of which `file` is the name, and the words of the first, which
+/// takes a small part of the time to read its numbers. One that breaks off throws `cannotCheck`.
+surfaceTableShape lookAtSurface(std::istream& in, const std::string& file);
 
 /// Reads a table of elevations line by line: the time [s] and the elevation [m] at each node, by
-/// blanks or tabs. A damaged line throws `cannotCheck`.
+/// blanks or tabs, as single precision can hold them. A damaged line throws `cannotCheck`.
 class surfaceTable {
 public:
     /// The stream, of which `file` is the name, must outlive the table.
@@ -48,7 +57,7 @@ private:
     bool isLineEnd();
     bool isLine();
     template <class T>
-    T number();
+    T number(std::size_t column);
     void endLine();
 
     textScanner scanner_;

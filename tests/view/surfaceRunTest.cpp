@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <filesystem>
 #include <numeric>
 #include <sstream>
 
@@ -66,7 +67,7 @@ TEST_F(surfaceRunTest, keepsEverySoManyInstantsAndNodes) {
 TEST_F(surfaceRunTest, keepsTheFirstProbesOfARunWithoutGrid) {
     surfaceLimits limits;
     limits.series = 2;
-    const surfaceRun run = read("0 1 2 3\r\n0.5 4 5 6\r\n\r\n", "", limits);
+    const surfaceRun run = read("0 1 2 3 \r\n0.5 4 5 6\t\r\n\r\n", "", limits);
     EXPECT_FALSE(run.isGrid());
     EXPECT_EQ(run.nodesOfRun, 3U);
     ASSERT_EQ(run.probes.size(), 2U);
@@ -74,6 +75,7 @@ TEST_F(surfaceRunTest, keepsTheFirstProbesOfARunWithoutGrid) {
 }
 
 TEST_F(surfaceRunTest, namesTheLineOfADamagedFile) {
+    const std::string longNumber = "0 " + std::string(2000, '0');
     struct {
         const char* table;
         const char* domain;
@@ -83,15 +85,20 @@ TEST_F(surfaceRunTest, namesTheLineOfADamagedFile) {
         {"0\n1\n", "", "dat, line 1: found no elevations"},
         {"0 1 2\n1 1\n", "", "line 2: found 1 elevations, expected 2"},
         {"0 1 2\n1 1 2 3\n", "", "line 2: found more than 2 elevations"},
-        {"0 1\n1 nan\n", "", "line 2: found text that is not a finite number"},
-        {"0 1\n1 1e99\n", "", "line 2: found text that is not a finite number"},
+        {"0 1 2\n1 1 \t\n2 3 4\n", "", "line 2: found 1 elevations, expected 2"},
+        {"0 1\n1 nan\n", "", "line 2: found text in column 2 that is not a finite number"},
+        {"0 1\n1 1e99\n", "", "line 2: found text in column 2 that is not a finite number"},
+        {"0 1\n1e99 1\n", "", "line 2: found text in column 1 that is not a finite number"},
         {"0 1\n\n1 1\n", "", "line 2: found an empty line"},
         {"1 1\n0 1\n", "", "line 2: found the time 0 s after 1 s"},
         {"0 1\r1 1\r", "", "line 1: found"},
+        {longNumber.c_str(), "", "line 1: found text in column 2 that"},
         {"0 1\n", "2 2 1 1\n", "line 1: found 1 elevations, expected 4, a node each"},
-        {"0 1 2 3 4\n", "2 2 0 1\n", "waveDomain.dat, line 1: found text that is no grid"},
-        {"0 1 2 3 4\n", "2 2 1\n", "waveDomain.dat, line 1: found text that is no grid"},
-        {"0 1 2 3 4\n", "2 2 1 1 1\n", "waveDomain.dat, line 1: found text that is no grid"},
+        {"0 1 2 3 4\n", "2 2 0 1\n", "waveDomain.dat, line 1: found \"2 2 0 1\", expected two"},
+        {"0 1 2 3 4\n", "2 1e99 1 1\n",
+         "waveDomain.dat, line 1: found \"2 1e99 1 1\", expected two"},
+        {"0 1 2 3 4\n", "2 2 1\n", "waveDomain.dat, line 1: found \"2 2 1\", expected two"},
+        {"0 1 2 3 4\n", "2 2 1 1 1\n", "waveDomain.dat, line 1: found \"2 2 1 1 1\", expected two"},
         {"0 1\n", "2 2 2000000000 2000000000\n", "line 1: found a grid of 4000000004000000001"},
     };
     for (const auto& c : cases) {
@@ -100,6 +107,10 @@ TEST_F(surfaceRunTest, namesTheLineOfADamagedFile) {
                     testing::ThrowsMessage<cannotCheck>(testing::HasSubstr(c.says)));
     }
     EXPECT_THROW(readSurfaceRun(folder.path("none"), {}), cannotCheck);
+    std::error_code ignored;
+    std::filesystem::remove(folder.path("waveElevation.dat"));
+    std::filesystem::create_symlink("/dev/zero", folder.path("waveElevation.dat"), ignored);
+    EXPECT_THROW(readSurfaceRun(folder.path(), {}), cannotCheck) << "endless";
 }
 
 TEST(spectrumEstimate, hasTheVarianceAndThePeakOfASinusoid) {

@@ -76,7 +76,8 @@ pageNumbers::pageNumbers(std::string name, const std::vector<short>& values)
 
 void writePage(std::ostream& out, const pageContent& content, const pageAssets& assets) {
     const std::string title = escapeHtml(content.title);
-    out << "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
+    out << pageStart
+        << "\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
            "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
            // Without an icon of its own a browser asks for one.
            "<link rel=\"icon\" href=\"data:,\">\n"

@@ -38,6 +38,9 @@ struct pageContent {
     std::vector<pageNumbers> numbers; ///< in Base64 after the body
 };
 
+/// What every page begins with.
+constexpr std::string_view pageStart = "<!DOCTYPE html>";
+
 /// Writes a page. Its size is that of body and assets, and four thirds of the numbers.
 void writePage(std::ostream& out, const pageContent& content, const pageAssets& assets);
 

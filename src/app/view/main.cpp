@@ -1,6 +1,7 @@
 #include "app/programEntry.hpp"
 #include "app/view/assets.hpp"
 #include "app/view/commands.hpp"
+#include "base/files.hpp"
 #include "base/rewrite.hpp"
 
 #include <filesystem>
@@ -32,6 +33,19 @@ void sayWritten(const std::string& folder) {
 
 namespace {
 
+/// Whether a file with content is there that is no page. A slip such as "-o *.stl" names one.
+bool isOtherFile(const std::string& path) {
+    std::error_code failed;
+    if (!std::filesystem::is_regular_file(path, failed) ||
+        std::filesystem::file_size(path, failed) == 0) {
+        return false;
+    }
+    std::string start(pageStart.size(), '\0');
+    std::ifstream in = files::open(path);
+    in.read(start.data(), static_cast<std::streamsize>(start.size()));
+    return start != pageStart;
+}
+
 void requireOutput(const viewRequest& asked) {
     if (asked.pageFile.empty() && asked.vtkFolder.empty()) {
         throw cannotView("Nothing to write. Give -o FILE.html, --vtk FOLDER or both.");
@@ -41,6 +55,10 @@ void requireOutput(const viewRequest& asked) {
         if (std::filesystem::equivalent(source, asked.pageFile, ignored)) {
             throw cannotView("-o names " + source + ", which is read. Give another file.");
         }
+    }
+    if (isOtherFile(asked.pageFile)) {
+        throw cannotView("-o names " + asked.pageFile +
+                         ", which is there and is not a page. Give another file, or remove it.");
     }
 }
 

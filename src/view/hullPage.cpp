@@ -1,27 +1,34 @@
 #include "view/hullPage.hpp"
 
-#include "base/numberText.hpp"
 #include "check/hullSurface.hpp"
 #include "view/hullScene.hpp"
 #include "view/reportHtml.hpp"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <filesystem>
 
 namespace sorvik {
 namespace {
 
+/// With all digits: the scripts compare coordinates with it, which may lie far from the origin.
+std::string exactText(double value) {
+    char digits[32];
+    return {digits, std::to_chars(digits, digits + sizeof digits, value).ptr};
+}
+
 template <class List>
 std::string listText(const List& values) {
     std::string text;
     for (const double value : values) {
-        text += (text.empty() ? "" : " ") + numberText(value);
+        text += (text.empty() ? "" : " ") + exactText(value);
     }
     return text;
 }
 
-/// Around all hulls; a box of 2 m around the origin where there is no panel.
+/// Around all hulls as far as they are drawn; a box of 2 m around the origin where there is no
+/// panel.
 box boxAroundAll(const std::vector<viewedHull>& hulls) {
     box all = {{-1, -1, -1}, {1, 1, 1}};
     bool isFirst = true;
@@ -36,6 +43,10 @@ box boxAroundAll(const std::vector<viewedHull>& hulls) {
         }
         isFirst = false;
     }
+    for (std::size_t i = 0; i < 3; ++i) {
+        all.low[i] = std::clamp(all.low[i], -farthestDrawn, farthestDrawn);
+        all.high[i] = std::clamp(all.high[i], -farthestDrawn, farthestDrawn);
+    }
     return all;
 }
 
@@ -44,7 +55,7 @@ std::string stageHtml(const std::vector<viewedHull>& hulls, double level,
     const box all = boxAroundAll(hulls);
     return "<section class=\"stage\" aria-label=\"Hulls in three dimensions\" data-low=\"" +
            listText(all.low) + "\" data-high=\"" + listText(all.high) + "\" data-level=\"" +
-           numberText(level) + "\" data-headings=\"" + listText(headings) +
+           exactText(level) + "\" data-headings=\"" + listText(headings) +
            "\">\n<noscript><p>The picture needs JavaScript; all else on this page does not."
            "</p></noscript>\n</section>\n";
 }

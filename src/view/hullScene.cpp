@@ -25,6 +25,17 @@ struct coordinatesHash {
     }
 };
 
+/// What is not a number or lies farther away, a browser cannot draw.
+bool isDrawn(const v3<float>& p) {
+    constexpr auto farthest = static_cast<float>(farthestDrawn);
+    const auto isNear = [](float coordinate) { return std::fabs(coordinate) <= farthest; };
+    return isNear(p.x) && isNear(p.y) && isNear(p.z);
+}
+
+bool isDrawn(const triangle& panel) {
+    return isDrawn(panel.vertexA) && isDrawn(panel.vertexB) && isDrawn(panel.vertexC);
+}
+
 /// Corners that are the same to the last bit share a node, so that a page gives the areas of the
 /// mesh as it is; those of a file are alike wherever panels meet.
 class sharedNodes {
@@ -34,6 +45,18 @@ public:
         faces_.reserve(3 * panels);
     }
 
+    /// One that cannot be drawn keeps its number, without an area.
+    void add(const triangle& panel) {
+        const bool drawn = isDrawn(panel);
+        for (const v3<float>* corner : {&panel.vertexA, &panel.vertexB, &panel.vertexC}) {
+            add(drawn ? *corner : v3<float>{0, 0, 0});
+        }
+    }
+
+    const std::vector<float>& nodes() const { return nodes_; }
+    const std::vector<unsigned>& faces() const { return faces_; }
+
+private:
     void add(const v3<float>& p) {
         coordinates key{};
         const float place[] = {p.x, p.y, p.z};
@@ -46,10 +69,6 @@ public:
         faces_.push_back(found->second);
     }
 
-    const std::vector<float>& nodes() const { return nodes_; }
-    const std::vector<unsigned>& faces() const { return faces_; }
-
-private:
     std::unordered_map<coordinates, unsigned, coordinatesHash> numbers_;
     std::vector<float> nodes_;
     std::vector<unsigned> faces_;
@@ -63,9 +82,11 @@ std::vector<float> piecesOf(const bodyMesh& mesh) {
     std::vector<float> pieces;
     pieces.reserve(9 * mesh.splitFaces.size());
     for (const triangle& piece : mesh.splitFaces) {
-        append(pieces, piece.vertexA);
-        append(pieces, piece.vertexB);
-        append(pieces, piece.vertexC);
+        if (isDrawn(piece)) {
+            append(pieces, piece.vertexA);
+            append(pieces, piece.vertexB);
+            append(pieces, piece.vertexC);
+        }
     }
     return pieces;
 }
@@ -80,7 +101,7 @@ std::vector<float> waterlineOf(const bodyMesh& mesh, double level) {
     for (const triangle* panel : mesh.wetFaces) {
         const v3<float>* const corner[] = {&panel->vertexA, &panel->vertexB, &panel->vertexC};
         const bool at[] = {isAt(*corner[0]), isAt(*corner[1]), isAt(*corner[2])};
-        if (at[0] + at[1] + at[2] != 2) {
+        if (at[0] + at[1] + at[2] != 2 || !isDrawn(*panel)) {
             continue;
         }
         for (int i = 0; i < 3; ++i) {
@@ -107,10 +128,12 @@ void addFinding(const finding& marked, const std::string& id, std::vector<pageNu
     const std::size_t count = std::min(marked.where.size(), placesMarked);
     for (std::size_t i = 0; i < count; ++i) {
         const location& place = marked.where[i];
-        if (place.hasPoint) {
-            for (const double coordinate : place.point) {
-                points.push_back(static_cast<float>(coordinate));
-            }
+        const auto coordinate = [&place](std::size_t axis) {
+            return static_cast<float>(place.point[axis]);
+        };
+        const v3<float> point{coordinate(0), coordinate(1), coordinate(2)};
+        if (place.hasPoint && isDrawn(point)) {
+            append(points, point);
             panels.push_back(static_cast<unsigned>(std::max(place.panel, 0)));
         }
     }
@@ -126,9 +149,7 @@ void addHullNumbers(const hullReport& hull, double level, const std::string& pre
                     std::vector<pageNumbers>& numbers) {
     sharedNodes corners(hull.mesh.faces.size());
     for (const triangle& panel : hull.mesh.faces) {
-        corners.add(panel.vertexA);
-        corners.add(panel.vertexB);
-        corners.add(panel.vertexC);
+        corners.add(panel);
     }
     numbers.emplace_back(prefix + "nodes", corners.nodes());
     numbers.emplace_back(prefix + "faces", corners.faces());

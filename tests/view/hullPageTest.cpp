@@ -76,6 +76,28 @@ TEST(hullPage, holdsPanelsCutAndPlacesOfFindings) {
     EXPECT_THAT(open.body, HasSubstr("open-edges"));
 }
 
+TEST(hullPage, leavesOutWhatCannotBeDrawn) {
+    for (const float odd : {std::nanf(""), INFINITY, -1e35F}) {
+        viewedHull hull = viewed(tetrahedron(), "odd");
+        hull.hull.mesh.faces[0].vertexB.y = odd;
+        const pageContent page = pageOf(std::move(hull));
+        EXPECT_EQ(numbersOf<unsigned>(page, "hull0-faces").size(), 3U * 4) << "keep their numbers";
+        for (const float coordinate : numbersOf<float>(page, "hull0-nodes")) {
+            EXPECT_LE(std::fabs(coordinate), 2);
+        }
+    }
+}
+
+TEST(hullPage, keepsAllDigitsOfPlaces) {
+    std::vector<triangle> panels = tetrahedron();
+    for (triangle& panel : panels) {
+        for (v3<float>* corner : {&panel.vertexA, &panel.vertexB, &panel.vertexC}) {
+            corner->x += 1e6F;
+        }
+    }
+    EXPECT_THAT(pageOf(viewed(panels, "far")).body, HasSubstr("data-high=\"1000002 2 1\""));
+}
+
 TEST(hullPage, showsNamesAsTheyAre) {
     const pageContent page =
         pageOf(viewed(tetrahedron(), "a/<script>&\"'\x01"), viewed(tetrahedron(), "b"));

@@ -1,8 +1,10 @@
 #!/usr/bin/env python3
 """readVtk.py SORVIKPRE SORVIKCHECK SORVIKVIEW EXAMPLES: VTK reads hulls and a sea as what they were made of."""
+import filecmp
 import json
 import math
 import pathlib
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -77,11 +79,15 @@ with tempfile.TemporaryDirectory() as name:
     subprocess.run([view, "hull", *meshes, "--level", LEVEL, "--vtk", work / "hulls"], check=True)
     for file in meshes:
         compare_hull(work / "hulls", file)
+    kept = shutil.copy(meshes[0], work / "kept.stl")
+    slip = subprocess.run([view, "hull", meshes[1], "-o", kept], stderr=subprocess.DEVNULL)
+    expect("status of a page in place of a mesh", slip.returncode, 2)
+    expect("the mesh is kept", filecmp.cmp(kept, meshes[0], shallow=False), True)
     (work / "sea").mkdir()
     (work / "sea" / "time.dat").write_text("30\n60.125\n400\n")
     subprocess.run([pre, "-waveElevation", "-f", examples / "4-jonswap" / "jonswapSea.m", "-domain", "40", "20", "4", "2",
                     "-o", work / "sea"], check=True, stdout=subprocess.DEVNULL)
-    subprocess.run([view, "sea", work / "sea", "--vtk", work / "frames"], check=True)
+    subprocess.run([view, "sea", "--probe", "0", "0", work / "sea", "--vtk", work / "frames"], check=True)
     compare_sea(work / "sea", work / "frames")
 print("\n".join(faults) or "VTK reads all that was written.")
 sys.exit(bool(faults))

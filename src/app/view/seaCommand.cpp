@@ -43,13 +43,14 @@ void addSeaView(CLI::App& app, viewRequest& asked) {
         });
     command.add_option("--frames", wanted->limits.frames, "Instants of the surface, at most")
         ->type_name("N")
-        ->check(CLI::PositiveNumber);
+        ->check(CLI::Range(1, 1'000'000));
     command
         .add_option("--probe", wanted->limits.probes,
                     "A place on the grid whose series is shown [m]; may be repeated")
         ->type_name("X Y")
         ->type_size(2)
-        ->expected(1, 100);
+        ->expected(-1)
+        ->allow_extra_args(false); // The folder may follow.
 }
 
 } // namespace sorvik

@@ -62,13 +62,10 @@ class ShownHull {
   addSurfaces() {
     const wet = [];
     const dry = [];
-    const isPlace = node => Number.isFinite(this.nodes[3 * node] + this.nodes[3 * node + 1] + this.nodes[3 * node + 2]);
     for (let i = 0; i < this.faces.length; i += 3) {
       const [a, b, c] = [this.faces[i], this.faces[i + 1], this.faces[i + 2]];
-      if (isPlace(a) && isPlace(b) && isPlace(c)) {
-        const isWet = [a, b, c].every(node => this.nodes[3 * node + 2] <= this.level);
-        (isWet ? wet : dry).push(a, b, c);
-      }
+      const isWet = [a, b, c].every(node => this.nodes[3 * node + 2] <= this.level);
+      (isWet ? wet : dry).push(a, b, c);
     }
     const surface = (geometry, value, nearer) => {
       const material = new THREE.MeshPhongMaterial({color: value, specular: 0x181818, shininess: 12, flatShading: true,

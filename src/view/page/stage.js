@@ -129,7 +129,7 @@ class Stage {
     if (index) {
       geometry.setIndex(new THREE.BufferAttribute(index, 1));
     }
-    geometry.boundingSphere = this.sphere; // which it need not look for, among corners that may not be finite
+    geometry.boundingSphere = this.sphere;
     return geometry;
   }
 
@@ -280,9 +280,6 @@ class Stage {
 
   /** Looks at a place, which is so wide [m], from where the camera is. */
   goTo(point, width) {
-    if (!point.every(Number.isFinite)) {
-      return;
-    }
     this.zoomTo(Math.max(1, 0.35 * this.size / (width || this.size)));
     this.lookFrom(this.direction(), new THREE.Vector3(...point));
   }

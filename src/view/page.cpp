@@ -27,7 +27,7 @@ std::string bytesOf(const std::vector<Number>& values) {
 void writeBase64(std::ostream& out, const std::string& bytes) {
     constexpr std::string_view digits =
         "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-    constexpr std::size_t lineLength = 64 * 1024;
+    constexpr std::size_t lineLength = std::size_t(64) * 1024;
     std::string text;
     text.reserve(lineLength + 4);
     const auto at = [&](std::size_t i) -> unsigned {

@@ -31,6 +31,7 @@ void writeHullFiles(const std::string& folder, const std::vector<viewedHull>& hu
         throw cannotView("There is no mesh for --vtk. sorvikCheck project says what is missing.");
     }
     std::vector<std::string> names;
+    names.reserve(hulls.size());
     for (const viewedHull& each : hulls) {
         names.push_back(each.name);
     }

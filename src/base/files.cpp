@@ -1,6 +1,7 @@
 #include "base/files.hpp"
 
-#include <cstdio>
+#include "base/platform.hpp"
+
 #include <filesystem>
 #include <locale>
 
@@ -12,7 +13,7 @@ namespace {
 
 /// Whether opening `path` for writing could do harm: a link to nothing would get its target, a pipe
 /// would wait for a reader, and a device could act on it.
-bool isSpecial(const std::string& path) {
+bool isSpecial(const fs::path& path) {
     std::error_code ignored;
     const fs::file_type type = fs::status(path, ignored).type();
     const bool isThere = fs::exists(fs::symlink_status(path, ignored));
@@ -20,10 +21,10 @@ bool isSpecial(const std::string& path) {
 }
 
 /// The name of the file that shows whether a folder can be written into.
-std::string findProbe(const std::string& folder) {
-    std::string probe = folder + "/test.txt";
+fs::path findProbe(const std::string& folder) {
+    fs::path probe = platform::pathOf(folder + "/test.txt");
     for (int i = 1; isSpecial(probe); ++i) {
-        probe = folder + "/test" + std::to_string(i) + ".txt";
+        probe = platform::pathOf(folder + "/test" + std::to_string(i) + ".txt");
     }
     return probe;
 }
@@ -35,10 +36,11 @@ std::ifstream files::open(const std::string& path) {
     in.imbue(std::locale::classic());
     // A folder opens like a file but cannot be read like one.
     std::error_code ignored;
-    if (fs::is_directory(path, ignored)) {
+    const fs::path place = platform::pathOf(path);
+    if (fs::is_directory(place, ignored)) {
         in.setstate(std::ios::failbit);
     } else {
-        in.open(path, std::ios::binary);
+        in.open(place, std::ios::binary);
     }
     return in;
 }
@@ -46,26 +48,26 @@ std::ifstream files::open(const std::string& path) {
 bool files::canOpen(const std::string& path) {
     // Opening a named pipe waits for its writer, and closing it again breaks what is written.
     std::error_code ignored;
-    return fs::is_fifo(path, ignored) || open(path).is_open();
+    return fs::is_fifo(platform::pathOf(path), ignored) || open(path).is_open();
 }
 
 std::ofstream files::create(const std::string& path) {
     std::ofstream out;
     out.imbue(std::locale::classic());
-    out.open(path, std::ios::binary);
+    out.open(platform::pathOf(path), std::ios::binary);
     return out;
 }
 
 bool files::makeFolder(const std::string& path) {
     std::error_code ignored;
-    fs::create_directory(path, ignored);
+    fs::create_directory(platform::pathOf(path), ignored);
 
     // A file of the probe's name may be the user's: it is opened without changing it.
-    const std::string probe = findProbe(path);
+    const fs::path probe = findProbe(path);
     const bool wasThere = fs::exists(fs::symlink_status(probe, ignored));
     const bool isWritable = std::ofstream(probe, std::ios::app).is_open();
     if (isWritable && !wasThere) {
-        std::remove(probe.c_str());
+        fs::remove(probe, ignored);
     }
     return isWritable;
 }

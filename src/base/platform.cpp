@@ -13,6 +13,11 @@
 #include <locale.h>
 #include <sys/stat.h>
 
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
+#include <windows.h>
+
 const char* const sorvik::platform::randomSource = "default";
 
 bool sorvik::platform::hasMemory(std::size_t /*bytes*/) {
@@ -29,8 +34,22 @@ bool sorvik::platform::isTerminal() {
     return _isatty(_fileno(stdout)) != 0;
 }
 
+// std::filesystem::path takes text in the encoding of the locale, which is never UTF-8 here.
+std::filesystem::path sorvik::platform::pathOf(const std::string& name) {
+    const auto bytes = static_cast<int>(name.size());
+    std::wstring wide(name.size(), L'\0'); // No character takes more units than bytes.
+    const int units = MultiByteToWideChar(CP_UTF8, 0, name.data(), bytes, wide.data(), bytes);
+    wide.resize(static_cast<std::size_t>(units));
+    return std::filesystem::path(wide);
+}
+
+std::string sorvik::platform::nameOf(const std::filesystem::path& path) {
+    return path.u8string();
+}
+
 int sorvik::platform::createNew(const std::string& path) {
-    const int file = _open(path.c_str(), _O_CREAT | _O_EXCL | _O_WRONLY, _S_IREAD | _S_IWRITE);
+    const int file =
+        _wopen(pathOf(path).c_str(), _O_CREAT | _O_EXCL | _O_WRONLY, _S_IREAD | _S_IWRITE);
     return file == -1 ? errno : _close(file);
 }
 
@@ -89,6 +108,14 @@ void sorvik::platform::holdStandardStreams() {
 
 bool sorvik::platform::isTerminal() {
     return isatty(STDOUT_FILENO) == 1;
+}
+
+std::filesystem::path sorvik::platform::pathOf(const std::string& name) {
+    return name;
+}
+
+std::string sorvik::platform::nameOf(const std::filesystem::path& path) {
+    return path.string();
 }
 
 int sorvik::platform::createNew(const std::string& path) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <filesystem>
 #include <string>
 
 namespace sorvik {
@@ -23,6 +24,13 @@ void holdStandardStreams();
 
 /// Whether standard output is a terminal.
 bool isTerminal();
+
+/// The path that `name` means, which is text in UTF-8 on Windows and bytes elsewhere. What is not
+/// UTF-8 there gives a path that no file has.
+std::filesystem::path pathOf(const std::string& name);
+
+/// The name of `path` as `pathOf` takes it.
+std::string nameOf(const std::filesystem::path& path);
 
 /// Creates the empty file `path`, which must not be there. Returns 0, or errno.
 int createNew(const std::string& path);

@@ -27,28 +27,29 @@ std::string makeBeside(const std::string& path) {
 }
 
 bool mayBeWritten(const std::string& path) {
-    return std::ofstream(path, std::ios::app).is_open();
+    return std::ofstream(platform::pathOf(path), std::ios::app).is_open();
 }
 
 } // namespace
 
 replacement::replacement(const std::string& path) : place_(path), path_(path) {
     std::error_code ignored;
-    const fs::file_type type = fs::symlink_status(path, ignored).type();
+    const fs::file_type type = fs::symlink_status(platform::pathOf(path), ignored).type();
     const bool isThere = type == fs::file_type::regular;
     if (isThere ? mayBeWritten(path) : type == fs::file_type::not_found) {
         path_ = makeBeside(path);
     }
     if (isThere && path_ != place_) {
         platform::copyOwner(place_, path_);
-        fs::permissions(path_, fs::status(place_, ignored).permissions(), ignored);
+        const fs::file_status like = fs::status(platform::pathOf(place_), ignored);
+        fs::permissions(platform::pathOf(path_), like.permissions(), ignored);
     }
 }
 
 replacement::~replacement() {
     if (path_ != place_) {
         std::error_code ignored;
-        fs::remove(path_, ignored);
+        fs::remove(platform::pathOf(path_), ignored);
     }
 }
 
@@ -57,13 +58,15 @@ bool replacement::settle() {
         return true;
     }
     std::error_code failed;
-    fs::rename(path_, place_, failed);
+    const fs::path made = platform::pathOf(path_);
+    const fs::path place = platform::pathOf(place_);
+    fs::rename(made, place, failed);
     if (!failed) {
         path_ = place_;
         return true;
     }
     // A file that is mounted, or another's in a shared folder, can be written but not replaced.
-    fs::copy_file(path_, place_, fs::copy_options::overwrite_existing, failed);
+    fs::copy_file(made, place, fs::copy_options::overwrite_existing, failed);
     if (failed) {
         path_ = place_; // What is left of the old file is not whole: the new one stays.
     }
@@ -72,8 +75,9 @@ bool replacement::settle() {
 
 std::string sharedFile(const std::string& source, const std::string& target) {
     std::error_code failed;
-    const bool isShared = fs::equivalent(source, target, failed);
-    return isShared ? fs::canonical(target, failed).string() : std::string();
+    const fs::path place = platform::pathOf(target);
+    const bool isShared = fs::equivalent(platform::pathOf(source), place, failed);
+    return isShared ? platform::nameOf(fs::canonical(place, failed)) : std::string();
 }
 
 } // namespace sorvik

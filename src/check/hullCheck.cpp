@@ -1,6 +1,7 @@
 #include "check/hullCheck.hpp"
 
 #include "base/files.hpp"
+#include "base/platform.hpp"
 #include "check/hullFindings.hpp"
 #include "check/hullSurface.hpp"
 #include "check/quietly.hpp"
@@ -28,7 +29,7 @@ void requireFinite(const point3& values, const std::string& option) {
 }
 
 void requireUsable(const std::string& file, const hullOptions& options) {
-    if (!std::filesystem::is_regular_file(file) || !files::canOpen(file)) {
+    if (!std::filesystem::is_regular_file(platform::pathOf(file)) || !files::canOpen(file)) {
         throw cannotCheck("Cannot read the mesh " + file +
                           ". Check the name; it is a file that you may read.");
     }

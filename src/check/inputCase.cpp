@@ -2,10 +2,9 @@
 
 #include "base/files.hpp"
 #include "base/numberText.hpp"
+#include "base/platform.hpp"
 #include "check/keyTable.hpp"
 #include "io/sorvikIO.hpp"
-
-#include <filesystem>
 
 namespace sorvik {
 
@@ -53,8 +52,8 @@ std::string checkedFile(const inputCase& input, const std::string& key, report& 
     if (files::canOpen(name)) {
         return name;
     }
-    const auto folder = std::filesystem::path(input.file).parent_path();
-    std::string beside = (folder / name).string();
+    const auto folder = platform::pathOf(input.file).parent_path();
+    std::string beside = platform::nameOf(folder / platform::pathOf(name));
     if (!folder.empty() && files::canOpen(beside)) {
         finding& found = addOfKey(result, "missing-file", input, key,
                                   key + " names " + name +

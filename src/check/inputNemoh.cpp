@@ -1,5 +1,6 @@
 #include "base/files.hpp"
 #include "base/numberText.hpp"
+#include "base/platform.hpp"
 #include "check/inputCase.hpp"
 #include "check/quietly.hpp"
 #include "io/sorvikIO.hpp"
@@ -137,12 +138,12 @@ void checkMeshFile(const inputCase& input, const std::string& prefix, report& re
 
 void checkOutput(const inputCase& input, report& result) {
     demand(input, "bem.output", result);
-    const auto parent = std::filesystem::path(input.valueOf("bem.output")).parent_path();
+    const auto parent = platform::pathOf(input.valueOf("bem.output")).parent_path();
     std::error_code ignored;
     if (!parent.empty() && !std::filesystem::is_directory(parent, ignored)) {
         addOfKey(result, "missing-file", input, "bem.output",
                  "bem.output is " + input.valueOf("bem.output") + ", but there is no folder " +
-                     parent.string() + ".")
+                     platform::nameOf(parent) + ".")
             .cure = "Make the folder; only the last one of a path is made by the task.";
     }
 }

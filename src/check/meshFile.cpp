@@ -3,6 +3,7 @@
 #include "base/classicText.hpp"
 #include "base/files.hpp"
 #include "base/littleEndian.hpp"
+#include "base/platform.hpp"
 #include "check/meshFileScans.hpp"
 #include "mesh/stlFormat.hpp"
 
@@ -96,7 +97,7 @@ void inspectBinaryStl(const std::string& head, std::uintmax_t size, meshFileFact
 
 meshFileFacts inspectMeshFile(const std::string& file, long long panels, report& result) {
     std::error_code ignored;
-    const std::uintmax_t size = std::filesystem::file_size(file, ignored);
+    const std::uintmax_t size = std::filesystem::file_size(platform::pathOf(file), ignored);
     const std::string head = headOf(file);
     meshFileFacts facts;
     facts.ending = file.size() < 4 ? file : file.substr(file.size() - 4);

@@ -3,6 +3,7 @@
 #include "base/classicText.hpp"
 #include "base/files.hpp"
 #include "base/numberText.hpp"
+#include "base/platform.hpp"
 #include "check/irregularFrequency.hpp"
 #include "mesh/nemohFormat.hpp"
 
@@ -221,7 +222,8 @@ void checkMesh(const std::string& file, const std::string& name, checkedBody& ch
 
 std::string findBodyMesh(const std::string& folder, const calBody& body) {
     const auto isThere = [&](const std::string& name) {
-        return !name.empty() && std::filesystem::is_regular_file(folder + "/" + name);
+        return !name.empty() &&
+               std::filesystem::is_regular_file(platform::pathOf(folder + "/" + name));
     };
     return isThere(body.mesh) ? body.mesh : isThere(body.meshText) ? body.meshText : "";
 }

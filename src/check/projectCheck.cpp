@@ -2,6 +2,7 @@
 
 #include "base/files.hpp"
 #include "base/numberText.hpp"
+#include "base/platform.hpp"
 #include "check/nemohCal.hpp"
 #include "check/projectBody.hpp"
 #include "nemoh/nemohIO.hpp"
@@ -99,8 +100,8 @@ void checkParts(const std::string& folder, report& result) {
     if (!files::canOpen(folder + "/input_solver.txt")) {
         result.add("missing-file", "The project has no input_solver.txt, the solver's settings.");
     }
-    if (!std::filesystem::is_directory(folder + "/results") &&
-        !std::filesystem::is_directory(folder + "/Results")) {
+    if (!std::filesystem::is_directory(platform::pathOf(folder + "/results")) &&
+        !std::filesystem::is_directory(platform::pathOf(folder + "/Results"))) {
         result.add("missing-file", "The project has no folder results.").cure =
             "Make the folder: mkdir " + folder + "/results";
     }

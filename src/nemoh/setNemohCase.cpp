@@ -1,6 +1,7 @@
 #include "nemoh/setNemohCase.hpp"
 
 #include "base/files.hpp"
+#include "base/platform.hpp"
 #include "io/sorvikIO.hpp"
 #include "mesh/bodyMesh.hpp"
 #include "mesh/nemohFormat.hpp"
@@ -100,8 +101,9 @@ failure placeMesh(const bodySettings& settings, const std::string& folder, proje
 
 /// Copies the file `source`, which is open as `in`.
 bool copyFile(std::istream& in, const std::string& source, const std::string& target) {
+    using sorvik::platform::pathOf;
     std::error_code ignored;
-    if (std::filesystem::equivalent(source, target, ignored)) {
+    if (std::filesystem::equivalent(pathOf(source), pathOf(target), ignored)) {
         return true; // Opening it for writing would empty it.
     }
     const bool isWritten = sorvik::files::write(target, [&](std::ostream& out) {

@@ -1,5 +1,6 @@
 #include "view/hullPage.hpp"
 
+#include "base/platform.hpp"
 #include "check/hullSurface.hpp"
 #include "view/hullScene.hpp"
 #include "view/reportHtml.hpp"
@@ -7,7 +8,6 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <filesystem>
 
 namespace sorvik {
 namespace {
@@ -86,8 +86,8 @@ pageContent hullPage(const std::vector<viewedHull>& hulls, double level) {
     pageContent page;
     page.kind = "hull";
     for (const viewedHull& each : hulls) {
-        page.title +=
-            (page.title.empty() ? "" : ", ") + std::filesystem::path(each.name).filename().string();
+        page.title += (page.title.empty() ? "" : ", ") +
+                      platform::nameOf(platform::pathOf(each.name).filename());
     }
     page.body = hullBody(hulls, level, {}, page.numbers);
     return page;

@@ -3,6 +3,7 @@
 #include "base/excerpt.hpp"
 #include "base/files.hpp"
 #include "base/numberText.hpp"
+#include "base/platform.hpp"
 #include "base/textScanner.hpp"
 #include "check/finding.hpp"
 #include "view/surfaceTable.hpp"
@@ -61,7 +62,7 @@ struct grid {
 std::ifstream openSurface(const std::string& file) {
     std::error_code ignored;
     std::ifstream in;
-    if (std::filesystem::is_regular_file(file, ignored)) {
+    if (std::filesystem::is_regular_file(platform::pathOf(file), ignored)) {
         in = files::open(file);
     }
     if (!in.is_open()) {

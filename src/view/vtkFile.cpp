@@ -1,5 +1,6 @@
 #include "view/vtkFile.hpp"
 
+#include "base/platform.hpp"
 #include "view/page.hpp"
 
 #include <filesystem>
@@ -76,7 +77,7 @@ void writeVtk(std::ostream& out, const vtkDataSet& data) {
 
 bool isLink(const std::string& path) {
     std::error_code ignored;
-    return std::filesystem::is_symlink(path, ignored);
+    return std::filesystem::is_symlink(platform::pathOf(path), ignored);
 }
 
 } // namespace sorvik

@@ -1,12 +1,12 @@
 #include "view/vtkHull.hpp"
 
+#include "base/platform.hpp"
 #include "check/hullSurface.hpp"
 #include "mesh/nodeMatcher.hpp"
 #include "view/vtkFile.hpp"
 
 #include <algorithm>
 #include <cmath>
-#include <filesystem>
 #include <map>
 #include <set>
 
@@ -158,7 +158,7 @@ std::vector<std::string> vtkStems(const std::vector<std::string>& meshFiles) {
     std::set<std::string> taken;
     std::vector<std::string> stems;
     for (const std::string& file : meshFiles) {
-        const std::string name = std::filesystem::path(file).stem().string();
+        const std::string name = platform::nameOf(platform::pathOf(file).stem());
         std::string stem = name;
         const auto isTaken = [&](const char* suffix) {
             return taken.count(inSmallLetters(stem) + suffix) > 0;

@@ -1,7 +1,7 @@
 #include "app/check/commands.hpp"
+#include "base/platform.hpp"
 #include "check/hullCheck.hpp"
 
-#include <filesystem>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -18,7 +18,7 @@ struct hullRequest {
 report runHull(const std::string& mesh, const hullRequest& wanted) {
     hullReport checked = checkHull(mesh, wanted.options);
     if (!wanted.folder.empty() && checked.hasPanels) {
-        const std::string name = std::filesystem::path(mesh).filename().string();
+        const std::string name = platform::nameOf(platform::pathOf(mesh).filename());
         hydrostaticFiles files = {wanted.options.cog, name, checked.mesh.wetFaces.size(), {}};
         if (const std::vector<double>& k = wanted.gyration; !k.empty()) {
             files.gyration = {k[0], k[1], k[2]};

@@ -54,7 +54,8 @@ void show(const request& asked, const report& result) {
 
 int run(const request& asked) {
     std::error_code ignored;
-    if (std::filesystem::equivalent(asked.subject, asked.jsonFile, ignored)) {
+    if (std::filesystem::equivalent(platform::pathOf(asked.subject),
+                                    platform::pathOf(asked.jsonFile), ignored)) {
         throw cannotCheck("--json names " + asked.subject + " itself. Give another file.");
     }
     const report result = asked.check();

@@ -2,6 +2,7 @@
 #include "app/view/assets.hpp"
 #include "app/view/commands.hpp"
 #include "base/files.hpp"
+#include "base/platform.hpp"
 #include "base/rewrite.hpp"
 
 #include <filesystem>
@@ -36,7 +37,7 @@ namespace {
 /// Whether a file with content is there that is no page. A slip such as "-o *.stl" names one.
 bool isOtherFile(const std::string& path) {
     std::error_code failed;
-    if (!std::filesystem::is_regular_file(path, failed) ||
+    if (!std::filesystem::is_regular_file(platform::pathOf(path), failed) ||
         std::filesystem::file_size(path, failed) == 0) {
         return false;
     }
@@ -52,7 +53,8 @@ void requireOutput(const viewRequest& asked) {
     }
     for (const std::string& source : asked.sources) {
         std::error_code ignored;
-        if (std::filesystem::equivalent(source, asked.pageFile, ignored)) {
+        if (std::filesystem::equivalent(platform::pathOf(source), platform::pathOf(asked.pageFile),
+                                        ignored)) {
             throw cannotView("-o names " + source + ", which is read. Give another file.");
         }
     }

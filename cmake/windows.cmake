@@ -1,0 +1,17 @@
+# On Windows 10 of version 1903 or later, the programs take arguments, and with them names of files, in UTF-8.
+if(NOT WIN32)
+  return()
+endif()
+set(manifest ${PROJECT_SOURCE_DIR}/share/windows/utf8.manifest)
+if(NOT MSVC)
+  enable_language(RC)
+  set(resource ${PROJECT_BINARY_DIR}/utf8.rc)
+  file(GENERATE OUTPUT ${resource} CONTENT "1 24 \"${manifest}\"\n") # 24: a manifest, 1: of a program
+  set_source_files_properties(${resource} PROPERTIES OBJECT_DEPENDS ${manifest})
+  set(manifest ${resource})
+endif()
+foreach(program IN ITEMS sorvikPre sorvikCheck sorvikView)
+  if(TARGET ${program})
+    target_sources(${program} PRIVATE ${manifest})
+  endif()
+endforeach()

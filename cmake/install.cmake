@@ -29,6 +29,10 @@ foreach(command IN ITEMS sorvik-run sorvik-plot)
   configure_file(tools/${command}.1.in ${command}.1 @ONLY)
   install(FILES ${PROJECT_BINARY_DIR}/${command}.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 endforeach()
+if(WIN32)
+  configure_file(tools/sorvik-run.cmd sorvik-run.cmd @ONLY NEWLINE_STYLE CRLF) # cmd loses labels otherwise
+  install(PROGRAMS ${PROJECT_BINARY_DIR}/sorvik-run.cmd TYPE BIN)
+endif()
 include(cmake/installDocuments.cmake)
 install(DIRECTORY share/plots DESTINATION ${CMAKE_INSTALL_DATADIR}/sorvikPre USE_SOURCE_PERMISSIONS)
 

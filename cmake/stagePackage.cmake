@@ -17,7 +17,7 @@ function(addDebianFiles)
   file(GLOB pages ${share}/man/man1/*.1)
   execute_process(COMMAND gzip -9n ${documents}/changelog ${documents}/changelog.Debian ${pages}
     COMMAND_ERROR_IS_FATAL ANY)
-  execute_process(COMMAND strip --strip-unneeded --remove-section=.comment --remove-section=.note
+  execute_process(COMMAND ${CPACK_SORVIK_STRIP} --strip-unneeded --remove-section=.comment --remove-section=.note
     ${CPACK_TEMPORARY_DIRECTORY}/usr/lib/libsorvik.a COMMAND_ERROR_IS_FATAL ANY)
 endfunction()
 

@@ -11,6 +11,7 @@ check_packages=(clang clang-format clang-tidy libclang-rt-dev libbenchmark-dev s
     pandoc mandoc groff-base busybox zsh fish python3-yaml)
 browser_packages=(chromium chromium-driver python3-selenium python3-vtk9 fonts-dejavu-core)
 package_packages=(dpkg-dev lintian pandoc debootstrap git)
+arm64_packages=(g++-aarch64-linux-gnu)
 windows_packages=(g++-mingw-w64-x86-64-posix wine64 wine zip unzip)
 
 is_installed() {

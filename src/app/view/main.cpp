@@ -38,7 +38,7 @@ namespace {
 bool isOtherFile(const std::string& path) {
     std::error_code failed;
     if (!std::filesystem::is_regular_file(platform::pathOf(path), failed) ||
-        std::filesystem::file_size(path, failed) == 0) {
+        std::filesystem::file_size(platform::pathOf(path), failed) == 0) {
         return false;
     }
     std::string start(pageStart.size(), '\0');

@@ -1,4 +1,5 @@
 #include "view/surfaceRun.hpp"
+#include "base/numberText.hpp"
 #include "check/finding.hpp"
 #include "support/program.hpp"
 #include "view/spectrumEstimate.hpp"
@@ -7,7 +8,6 @@
 #include <cmath>
 #include <filesystem>
 #include <numeric>
-#include <sstream>
 
 using namespace sorvik;
 
@@ -28,15 +28,15 @@ struct surfaceRunTest : testing::Test {
 
 /// Instants every half second; the elevation at node n of instant i is 100 i + n.
 std::string table(int instants, int nodes) {
-    std::ostringstream text;
+    std::string text;
     for (int i = 0; i < instants; ++i) {
-        text << 0.5 * i;
+        text += numberText(0.5 * i);
         for (int n = 0; n < nodes; ++n) {
-            text << '\t' << 100 * i + n;
+            text += '\t' + std::to_string(100 * i + n);
         }
-        text << '\n';
+        text += '\n';
     }
-    return text.str();
+    return text;
 }
 
 } // namespace
@@ -138,11 +138,7 @@ TEST(spectrumEstimate, hasTheVarianceAndThePeakOfASinusoid) {
 TEST(evenStep, allowsForSixDigitsOnly) {
     std::vector<double> times;
     for (int i = 0; i < 43200; ++i) {
-        times.push_back(std::stod([&] {
-            std::ostringstream text; // "10000.2" for 10000.25
-            text << 0.25 * i;
-            return text.str();
-        }()));
+        times.push_back(leadingNumber(numberText(0.25 * i).c_str())); // 10000.2 for 10000.25
     }
     EXPECT_NEAR(evenStep(times), 0.25, 1e-5);
     times[20] += 0.1;

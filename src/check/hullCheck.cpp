@@ -2,6 +2,7 @@
 
 #include "base/files.hpp"
 #include "base/platform.hpp"
+#include "check/hullExamination.hpp"
 #include "check/hullFindings.hpp"
 #include "check/hullSurface.hpp"
 #include "check/quietly.hpp"
@@ -42,30 +43,6 @@ void requireUsable(const std::string& file, const hullOptions& options) {
     requirePositive(options.w1.value_or(1), "--w1");
 }
 
-/// Takes out the panel that the reader makes of the line that ends a Nemoh mesh, and its image. All
-/// their corners lie at the mesh's zero.
-void removeNemohEnd(bodyMesh& mesh, bool isMirrored, const hullOptions& options) {
-    const v3<float> zero = {-static_cast<float>(options.origin[0]),
-                            -static_cast<float>(options.origin[1]),
-                            -static_cast<float>(options.origin[2])};
-    const auto isZero = [&](const v3<float>& p) {
-        return p.x == zero.x && p.y == zero.y && p.z == zero.z;
-    };
-    auto& faces = mesh.faces;
-    const auto removeAt = [&](std::size_t i) {
-        if (isZero(faces[i].vertexA) && isZero(faces[i].vertexB) && isZero(faces[i].vertexC)) {
-            faces.erase(faces.begin() + static_cast<std::ptrdiff_t>(i));
-        }
-    };
-    const std::size_t half = faces.size() / 2;
-    removeAt(faces.size() - 1);
-    if (isMirrored && half > 0) {
-        removeAt(half - 1);
-    }
-    mesh.nFaces = static_cast<int>(faces.size());
-    quietly([&] { mesh.updateWetSurface(options.level); });
-}
-
 std::vector<double> listOf(const point3& p) {
     return {p.begin(), p.end()};
 }
@@ -82,28 +59,6 @@ void addMeshFacts(const examinedHull& hull, report& result) {
     result.addFact("box.min", "Box from", listOf(hull.low), "m");
     result.addFact("box.max", "to", listOf(hull.high), "m");
     result.addFact("area", "Area", hull.mesh.surfaceArea(), "m2");
-}
-
-void addHydrostaticFacts(const hydrostatics& h, report& result) {
-    result.addFact("wettedArea", "Wetted area", h.wettedArea, "m2");
-    result.addFact("volume.x", "", h.volume[0], "m3");
-    result.addFact("volume.y", "", h.volume[1], "m3");
-    result.addFact("volume.z", "Volume", h.volume[2], "m3");
-    result.addFact("displacement", "Displacement", h.displacement, "kg");
-    result.addFact("draught", "Draught", h.draught, "m");
-    result.addFact("buoyancy", "Centre of buoyancy", listOf(h.buoyancy), "m");
-    result.addFact("waterplane.area", "Waterplane area", h.waterplane, "m2");
-    result.addFact("waterplane.x", "", h.waterplaneX, "m");
-    result.addFact("waterplane.y", "", h.waterplaneY, "m");
-    result.addFact("waterplane.Ixx", "", h.Ixx, "m4");
-    result.addFact("waterplane.Iyy", "", h.Iyy, "m4");
-    result.addFact("waterplane.Ixy", "", h.Ixy, "m4");
-    result.addFact("K33", "Stiffness in heave", h.stiffness[14], "N/m");
-    result.addFact("K44", "in roll", h.stiffness[21], "N m");
-    result.addFact("K55", "in pitch", h.stiffness[28], "N m");
-    result.addFact("stiffness", "", std::vector<double>(h.stiffness.begin(), h.stiffness.end()));
-    result.addFact("GMt", "GM, transverse", h.GMt, "m");
-    result.addFact("GMl", "GM, longitudinal", h.GMl, "m");
 }
 
 void addSizeFacts(const panelSizes& sizes, const hullOptions& options, report& result) {
@@ -131,17 +86,62 @@ std::string readHull(const std::string& file, const hullOptions& options, bodyMe
                                 : "";
 }
 
-/// Adds facts and findings on the mesh, and sets what follows from it.
-void examine(const meshFileFacts& facts, const hullOptions& options, hullReport& checked) {
-    report& result = checked.result;
-    bodyMesh& mesh = checked.mesh;
-    if (facts.format == "Nemoh") {
-        removeNemohEnd(mesh, facts.isMirroredY, options);
+} // namespace
+
+void removeNemohEnd(const meshFileFacts& file, const hullOptions& options, bodyMesh& mesh) {
+    if (file.format != "Nemoh" || mesh.faces.empty()) {
+        return;
     }
+    const v3<float> zero = {-static_cast<float>(options.origin[0]),
+                            -static_cast<float>(options.origin[1]),
+                            -static_cast<float>(options.origin[2])};
+    const auto isZero = [&](const v3<float>& p) {
+        return p.x == zero.x && p.y == zero.y && p.z == zero.z;
+    };
+    auto& faces = mesh.faces;
+    const auto removeAt = [&](std::size_t i) {
+        if (isZero(faces[i].vertexA) && isZero(faces[i].vertexB) && isZero(faces[i].vertexC)) {
+            faces.erase(faces.begin() + static_cast<std::ptrdiff_t>(i));
+        }
+    };
+    const std::size_t half = faces.size() / 2;
+    removeAt(faces.size() - 1);
+    if (file.isMirroredY && half > 0) {
+        removeAt(half - 1);
+    }
+    mesh.nFaces = static_cast<int>(faces.size());
+    quietly([&] { mesh.updateWetSurface(options.level); });
+}
+
+void addHydrostaticFacts(const hydrostatics& h, report& result) {
+    result.addFact("wettedArea", "Wetted area", h.wettedArea, "m2");
+    result.addFact("volume.x", "", h.volume[0], "m3");
+    result.addFact("volume.y", "", h.volume[1], "m3");
+    result.addFact("volume.z", "Volume", h.volume[2], "m3");
+    result.addFact("displacement", "Displacement", h.displacement, "kg");
+    result.addFact("draught", "Draught", h.draught, "m");
+    result.addFact("buoyancy", "Centre of buoyancy", listOf(h.buoyancy), "m");
+    result.addFact("waterplane.area", "Waterplane area", h.waterplane, "m2");
+    result.addFact("waterplane.x", "", h.waterplaneX, "m");
+    result.addFact("waterplane.y", "", h.waterplaneY, "m");
+    result.addFact("waterplane.Ixx", "", h.Ixx, "m4");
+    result.addFact("waterplane.Iyy", "", h.Iyy, "m4");
+    result.addFact("waterplane.Ixy", "", h.Ixy, "m4");
+    result.addFact("K33", "Stiffness in heave", h.stiffness[14], "N/m");
+    result.addFact("K44", "in roll", h.stiffness[21], "N m");
+    result.addFact("K55", "in pitch", h.stiffness[28], "N m");
+    result.addFact("stiffness", "", std::vector<double>(h.stiffness.begin(), h.stiffness.end()));
+    result.addFact("GMt", "GM, transverse", h.GMt, "m");
+    result.addFact("GMl", "GM, longitudinal", h.GMl, "m");
+}
+
+void examineHull(const meshFileFacts& file, const hullOptions& options, hullReport& checked) {
+    report& result = checked.result;
+    const bodyMesh& mesh = checked.mesh;
     checked.values = computeHydrostatics(mesh.faces, options);
     checked.topology = topologyBelow(mesh.faces, options.level);
     const auto [low, high] = boxAround(mesh.faces);
-    const examinedHull hull = {mesh, facts, options, checked.values, checked.topology, low, high};
+    const examinedHull hull = {mesh, file, options, checked.values, checked.topology, low, high};
     const panelSizes sizes = sizesOf(mesh.wetFaces, options.level);
     addMeshFacts(hull, result);
     addHydrostaticFacts(checked.values, result);
@@ -153,8 +153,6 @@ void examine(const meshFileFacts& facts, const hullOptions& options, hullReport&
     addPanelFindings(hull, sizes, result);
     addShapeFindings(hull, sizes, result);
 }
-
-} // namespace
 
 hullReport checkHull(const std::string& file, const hullOptions& options) {
     requireUsable(file, options);
@@ -171,7 +169,8 @@ hullReport checkHull(const std::string& file, const hullOptions& options) {
         }
         return checked;
     }
-    examine(facts, options, checked);
+    removeNemohEnd(facts, options, checked.mesh);
+    examineHull(facts, options, checked);
     return checked;
 }
 

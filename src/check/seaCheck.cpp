@@ -10,8 +10,8 @@
 #include "check/tableCheck.hpp"
 #include "check/waveFileCheck.hpp"
 #include "io/reader.hpp"
-#include "numerics/matrixOp.hpp"
 #include "waves/Jonswap.hpp"
+#include "waves/environment.hpp"
 #include "waves/globals.hpp"
 #include "waves/timeInstants.hpp"
 #include "waves/waveFactory.hpp"
@@ -24,40 +24,6 @@
 namespace sorvik {
 
 namespace {
-
-/// The environment of a new process, for its own lifetime: `globals` can be set only once.
-class freshEnvironment {
-public:
-    freshEnvironment() {
-        globals::m_g = {0.0, 0.0, -9.81};
-        globals::m_rhoWater = 1000.0;
-        globals::m_rhoAir = 1.0;
-        globals::m_stillWaterLevel = 0.0;
-        globals::m_isSet = false;
-    }
-    freshEnvironment(const freshEnvironment&) = delete;
-    freshEnvironment& operator=(const freshEnvironment&) = delete;
-    ~freshEnvironment() {
-        globals::m_dimensionNumber = dimensions_;
-        globals::m_g = gravity_;
-        globals::m_rhoWater = water_;
-        globals::m_rhoAir = air_;
-        globals::m_stillWaterLevel = level_;
-        globals::m_dimMap = map_;
-        globals::m_isSet = isSet_;
-        matrixOp::l2Norm = norm_;
-    }
-
-private:
-    std::int32_t dimensions_ = globals::m_dimensionNumber;
-    std::vector<double> gravity_ = globals::m_g;
-    double water_ = globals::m_rhoWater;
-    double air_ = globals::m_rhoAir;
-    double level_ = globals::m_stillWaterLevel;
-    std::vector<double> map_ = globals::m_dimMap;
-    bool isSet_ = globals::m_isSet;
-    decltype(matrixOp::l2Norm) norm_ = matrixOp::l2Norm;
-};
 
 /// A sea and the instants of its table.
 struct seaRun {
@@ -250,7 +216,7 @@ report checkSea(const std::string& file, const seaOptions& options) {
             throw cannotCheck("Cannot read " + name + ". Check the name of the file.");
         }
     }
-    const freshEnvironment environment;
+    const environmentScope scope(environment::ofNewProcess());
     report result;
     seaRun run;
     const quietOutcome outcome = quietly([&] { prepare(run, file); });

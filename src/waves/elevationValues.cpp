@@ -1,0 +1,85 @@
+#include "waves/elevationValues.hpp"
+
+#include "base/sixDigits.hpp"
+#include "waves/elevationBound.hpp"
+#include "waves/elevationChunks.hpp"
+#include "waves/timeInstants.hpp"
+#include "waves/waveModel.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+namespace sorvik {
+namespace {
+
+/// What is asked for.
+struct elevationRequest {
+    waveModel& model;
+    const std::vector<double>& x;
+    const std::vector<double>& y;
+    const timeInstants& instants;
+};
+
+/// What the model answers.
+void computeDirect(const elevationRequest& asked, double* values) {
+    const std::size_t count = asked.x.size();
+    for (std::int64_t i = 0; i < asked.instants.count(); ++i) {
+        asked.model.setTime(asked.instants[i]);
+        std::fill_n(values, count, 0.0);
+        asked.model.eta(static_cast<int>(count), asked.x.data(), asked.y.data(), values);
+        values += count;
+    }
+}
+
+/// Computes an instant from `sums`, which lie within `bound` of those of the model before the ramp.
+/// Where the text is in doubt, the model is asked.
+void computeRow(const elevationRequest& asked, double t, const double* sums, double bound,
+                double* values) {
+    const double ramp = asked.model.rampFactorAt(t);
+    for (std::size_t j = 0; j < asked.x.size(); ++j) {
+        char text[sixDigits::room];
+        values[j] = ramp * sums[j];
+        // At rest, zeros carry the sign of the sum.
+        const bool isSignedZero = ramp == 0.0 && std::fabs(sums[j]) > bound;
+        if (!isSignedZero && sixDigits::writeIfCertain(text, values[j], ramp * bound) == nullptr) {
+            values[j] = 0.0;
+            asked.model.setTime(t);
+            asked.model.eta(1, &asked.x[j], &asked.y[j], &values[j]);
+        }
+    }
+}
+
+void computeChunks(const elevationRequest& asked, const std::vector<planeWave>& waves, double bound,
+                   double* values) {
+    elevationChunks chunks(waves, asked.x, asked.y, asked.instants);
+    const std::int64_t count = asked.instants.count();
+    for (std::int64_t first = 0; first < count; first += chunks.length()) {
+        chunks.compute(first);
+        const std::int64_t rows = std::min(chunks.length(), count - first);
+        for (std::int64_t row = 0; row < rows; ++row) {
+            computeRow(asked, asked.instants[first + row], chunks.row(row), bound, values);
+            values += asked.x.size();
+        }
+    }
+}
+
+} // namespace
+
+void computeElevations(waveModel& model, const std::vector<double>& x, const std::vector<double>& y,
+                       const timeInstants& instants, double* values) {
+    if (instants.count() < 1) {
+        return;
+    }
+    const elevationRequest asked = {model, x, y, instants};
+    if (model.isSumOfTrains()) {
+        const std::vector<planeWave> waves = planeWavesOf(model);
+        const double bound = elevationBound(waves, x, y, instants);
+        if (elevationChunks::suit(waves, x.size(), bound)) {
+            computeChunks(asked, waves, bound, values);
+            return;
+        }
+    }
+    computeDirect(asked, values);
+}
+
+} // namespace sorvik

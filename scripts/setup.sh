@@ -10,6 +10,7 @@ test_packages=(libgtest-dev libgmock-dev gnuplot-nox libxml2-utils python3 paral
 check_packages=(clang clang-format clang-tidy libclang-rt-dev libbenchmark-dev shellcheck git doxygen
     pandoc mandoc groff-base busybox zsh fish python3-yaml)
 browser_packages=(chromium chromium-driver python3-selenium python3-vtk9 fonts-dejavu-core)
+python_packages=(pybind11-dev python3-dev python3-numpy python3-pytest python3-matplotlib python3-xarray)
 package_packages=(dpkg-dev lintian pandoc debootstrap git)
 arm64_packages=(g++-aarch64-linux-gnu)
 windows_packages=(g++-mingw-w64-x86-64-posix wine64 wine zip unzip)

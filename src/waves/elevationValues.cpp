@@ -20,14 +20,14 @@ struct elevationRequest {
     const timeInstants& instants;
 };
 
-/// What the model answers.
+/// What the model answers, which is nan at a probe once it has been: the numbers of the instant
+/// before are there when it is asked.
 void computeDirect(const elevationRequest& asked, double* values) {
-    const std::size_t count = asked.x.size();
+    std::vector<double> row(asked.x.size(), 0.0);
     for (std::int64_t i = 0; i < asked.instants.count(); ++i) {
         asked.model.setTime(asked.instants[i]);
-        std::fill_n(values, count, 0.0);
-        asked.model.eta(static_cast<int>(count), asked.x.data(), asked.y.data(), values);
-        values += count;
+        asked.model.eta(static_cast<int>(row.size()), asked.x.data(), asked.y.data(), row.data());
+        values = std::copy(row.begin(), row.end(), values);
     }
 }
 

@@ -114,6 +114,23 @@ request::request(const numbers& t, const py::tuple& coordinates) : instants(list
     }
 }
 
+/// The instants of a list, as evenly spaced ones where they are just that: these take half the
+/// products.
+timeInstants instantsOf(std::vector<double>&& list) {
+    const std::size_t count = list.size();
+    if (count > 2) {
+        const timeInstants even(list[0], list[1] - list[0], static_cast<std::int64_t>(count));
+        std::size_t i = 0;
+        while (i < count && even[static_cast<std::int64_t>(i)] == list[i]) {
+            ++i;
+        }
+        if (i == count) {
+            return even;
+        }
+    }
+    return timeInstants(std::move(list));
+}
+
 py::array sea::elevation(const numbers& t, const numbers& x, const numbers& y) {
     request asked(t, py::make_tuple(x, y));
     py::array_t<double> result(asked.shape());
@@ -122,7 +139,7 @@ py::array sea::elevation(const numbers& t, const numbers& x, const numbers& y) {
         const py::gil_scoped_release others;
         const std::lock_guard<std::mutex> lock(isUsed_);
         computeElevations(*model_, asked.axes[0], asked.axes[1],
-                          timeInstants(std::move(asked.instants)), values);
+                          instantsOf(std::move(asked.instants)), values);
     }
     return result;
 }

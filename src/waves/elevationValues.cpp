@@ -1,6 +1,6 @@
 #include "waves/elevationValues.hpp"
 
-#include "base/sixDigits.hpp"
+#include "base/textWriter.hpp"
 #include "waves/elevationBound.hpp"
 #include "waves/elevationChunks.hpp"
 #include "waves/timeInstants.hpp"
@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <ostream>
 
 namespace sorvik {
 namespace {
@@ -32,32 +33,35 @@ void computeDirect(const elevationRequest& asked, double* values) {
 }
 
 /// Computes an instant from `sums`, which lie within `bound` of those of the model before the ramp.
-/// Where the text is in doubt, the model is asked.
+/// Where the text is in doubt, the model is asked; `texts` goes nowhere and finds out.
 void computeRow(const elevationRequest& asked, double t, const double* sums, double bound,
-                double* values) {
+                textWriter& texts, double* values) {
     const double ramp = asked.model.rampFactorAt(t);
-    for (std::size_t j = 0; j < asked.x.size(); ++j) {
-        char text[sixDigits::room];
-        values[j] = ramp * sums[j];
+    const std::size_t count = asked.x.size();
+    std::transform(sums, sums + count, values, [ramp](double sum) { return ramp * sum; });
+    std::size_t j = 0;
+    while ((j += texts.writeColumns(sums + j, count - j, ramp, ramp * bound)) < count) {
         // At rest, zeros carry the sign of the sum.
-        const bool isSignedZero = ramp == 0.0 && std::fabs(sums[j]) > bound;
-        if (!isSignedZero && sixDigits::writeIfCertain(text, values[j], ramp * bound) == nullptr) {
+        if (ramp != 0.0 || !(std::fabs(sums[j]) > bound)) {
             values[j] = 0.0;
             asked.model.setTime(t);
             asked.model.eta(1, &asked.x[j], &asked.y[j], &values[j]);
         }
+        ++j;
     }
 }
 
 void computeChunks(const elevationRequest& asked, const std::vector<planeWave>& waves, double bound,
                    double* values) {
+    std::ostream nowhere(nullptr);
+    textWriter texts(nowhere);
     elevationChunks chunks(waves, asked.x, asked.y, asked.instants);
     const std::int64_t count = asked.instants.count();
     for (std::int64_t first = 0; first < count; first += chunks.length()) {
         chunks.compute(first);
         const std::int64_t rows = std::min(chunks.length(), count - first);
         for (std::int64_t row = 0; row < rows; ++row) {
-            computeRow(asked, asked.instants[first + row], chunks.row(row), bound, values);
+            computeRow(asked, asked.instants[first + row], chunks.row(row), bound, texts, values);
             values += asked.x.size();
         }
     }

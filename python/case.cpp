@@ -32,6 +32,11 @@ const std::string& valueOf(const inputCase& self, const std::string& key) {
     return entry->second;
 }
 
+[[noreturn]] void refuseText(const std::string& key, const std::string& text,
+                             const char* expected) {
+    throw py::value_error(key + " is \"" + text + "\", expected " + expected);
+}
+
 bool isNumber(const std::string& word) {
     classicText text(word);
     double value = 0;
@@ -47,7 +52,7 @@ void requireNumbers(const std::string& key, const std::string& text, std::size_t
     std::string word;
     for (std::size_t i = 0; i < most && words >> word; ++i) {
         if (!isNumber(word)) {
-            throw py::value_error(key + " is \"" + text + "\", expected " + expected);
+            refuseText(key, text, expected);
         }
     }
 }

@@ -119,6 +119,7 @@ TEST(spectrumEstimate, hasTheVarianceAndThePeakOfASinusoid) {
     for (const int count : {241, 5000}) {
         SCOPED_TRACE(count);
         std::vector<float> elevations;
+        elevations.reserve(static_cast<std::size_t>(count));
         for (int i = 0; i < count; ++i) {
             elevations.push_back(
                 3 + 2 * std::sin(static_cast<float>(6.283185307 * frequency * step * i)));
@@ -137,6 +138,7 @@ TEST(spectrumEstimate, hasTheVarianceAndThePeakOfASinusoid) {
 
 TEST(evenStep, allowsForSixDigitsOnly) {
     std::vector<double> times;
+    times.reserve(43200);
     for (int i = 0; i < 43200; ++i) {
         times.push_back(leadingNumber(numberText(0.25 * i).c_str())); // 10000.2 for 10000.25
     }

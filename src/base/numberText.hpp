@@ -7,6 +7,12 @@ namespace sorvik {
 /// `value` as a stream writes it by default, in the classic locale.
 std::string numberText(double value);
 
+/// 100 times `share`, rounded to `decimals` digits after the point, such as "12.5 %".
+std::string percentText(double share, int decimals);
+
+/// Such as "from 0 to 1 m".
+std::string rangeText(double from, double to, const std::string& unit);
+
 /// The number that `text` begins with, 0 where there is none, read as std::strtod reads it in the
 /// classic locale: what follows the number is ignored, white space before it too.
 double leadingNumber(const char* text);

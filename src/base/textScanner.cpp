@@ -38,8 +38,8 @@ bool isNumeric(char c) {
 
 /// The powers of ten up to that of the longest run of digits. A float too holds them exactly.
 template <class T>
-constexpr T powersOfTen[] = {T(1),      T(10),      T(100),      T(1000),     T(10000),
-                             T(100000), T(1000000), T(10000000), T(100000000)};
+constexpr T tenTo[] = {T(1),      T(10),      T(100),      T(1000),     T(10000),
+                       T(100000), T(1000000), T(10000000), T(100000000)};
 
 /// T holds every whole number up to this one exactly.
 template <class T>
@@ -53,7 +53,7 @@ struct digitRun {
 
 /// Multiplies by 10^high in the upper half of a word, and by 10^low in the lower one.
 constexpr std::uint64_t factors(int high, int low) {
-    return powersOfTen<std::uint64_t>[high] << 32 | powersOfTen<std::uint64_t>[low];
+    return tenTo<std::uint64_t>[high] << 32 | tenTo<std::uint64_t>[low];
 }
 
 /// The digits from `p` on, where 8 characters can be read: all at once, since a loop over numbers
@@ -92,11 +92,11 @@ const char* readShort(const char* begin, T& value) {
         last += decimals.length;
     }
     const std::uint64_t number =
-        whole.value * powersOfTen<std::uint64_t>[decimals.length] + decimals.value;
+        whole.value * tenTo<std::uint64_t>[decimals.length] + decimals.value;
     if (whole.length + decimals.length == 0 || isNumeric(*last) || number > largestExact<T>) {
         return nullptr;
     }
-    const T magnitude = static_cast<T>(number) / powersOfTen<T>[decimals.length];
+    const T magnitude = static_cast<T>(number) / tenTo<T>[decimals.length];
     value = isNegative ? -magnitude : magnitude;
     return last;
 }

@@ -17,6 +17,12 @@ location location::ofPanel(std::size_t index, const std::array<double, 3>& centr
     return place;
 }
 
+location location::ofLine(int line) {
+    location place;
+    place.line = line;
+    return place;
+}
+
 location location::ofKey(const std::string& key, int line) {
     location place;
     place.key = key;

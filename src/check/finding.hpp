@@ -30,6 +30,7 @@ struct location {
 
     /// A panel and its centre.
     static location ofPanel(std::size_t index, const std::array<double, 3>& centre);
+    static location ofLine(int line);
     /// A key of an input file, and its line where that is known.
     static location ofKey(const std::string& key, int line = 0);
 };

@@ -1,5 +1,7 @@
+#include "base/affixes.hpp"
 #include "base/excerpt.hpp"
 #include "check/inputCase.hpp"
+#include "io/aliasResolver.hpp"
 
 #include <algorithm>
 
@@ -9,15 +11,13 @@
 namespace sorvik {
 namespace {
 
-constexpr std::string_view sourceWord = "source";
-
 using sortedKeys = std::vector<std::string_view>;
 using keyIterator = sortedKeys::const_iterator;
 
 /// The first key from `from` on that does not begin with `head`.
 keyIterator endOf(const sortedKeys& keys, keyIterator from, std::string_view head) {
-    return std::partition_point(
-        from, keys.end(), [&](std::string_view key) { return key.substr(0, head.size()) == head; });
+    return std::partition_point(from, keys.end(),
+                                [&](std::string_view key) { return startsWith(key, head); });
 }
 
 /// A key that begins with the source without being an entry of it, such as body10.x for body1.
@@ -39,7 +39,7 @@ void checkAlias(const inputCase& input, const sortedKeys& keys, const std::strin
     const bool isMeant =
         key.size() > sourceWord.size() && key[key.size() - sourceWord.size() - 1] == '.';
     const keyIterator first = std::lower_bound(keys.begin(), keys.end(), std::string_view(source));
-    const bool isIdle = first == keys.end() || first->substr(0, source.size()) != source;
+    const bool isIdle = first == keys.end() || !startsWith(*first, source);
     const std::string alias = excerpt(key) + " = " + excerpt(source);
     if (isIdle && isMeant) {
         addOfKey(result, "idle-alias", input, key,
@@ -71,8 +71,7 @@ void checkInputAliases(const inputCase& input, report& result) {
     }
     long long aliases = 0;
     for (const auto& [key, value] : input.given) {
-        if (key.size() > sourceWord.size() &&
-            key.compare(key.size() - sourceWord.size(), key.npos, sourceWord) == 0) {
+        if (key.size() > sourceWord.size() && endsWith(key, sourceWord)) {
             ++aliases;
             checkAlias(input, keys, key, value, result);
         }

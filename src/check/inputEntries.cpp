@@ -1,5 +1,6 @@
 // What the text of an input file hides from its map: its encoding, its dialect, and entries and
 // lines that are lost without a message.
+#include "base/affixes.hpp"
 #include "check/inputCase.hpp"
 #include "io/brackets.hpp"
 #include "io/entryReader.hpp"
@@ -14,10 +15,6 @@ constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view littleEndianMark = "\xFF\xFE";
 constexpr std::string_view bigEndianMark = "\xFE\xFF";
 
-bool startsWith(std::string_view text, std::string_view head) {
-    return text.substr(0, head.size()) == head;
-}
-
 bool isUtf16(std::string_view text) {
     if (startsWith(text, littleEndianMark) || startsWith(text, bigEndianMark)) {
         return true;
@@ -26,12 +23,6 @@ bool isUtf16(std::string_view text) {
     const std::string_view head = text.substr(0, 64);
     return head.size() > 3 && 3 * std::count(head.begin(), head.end(), '\0') >
                                   static_cast<std::ptrdiff_t>(head.size());
-}
-
-location atLine(int line) {
-    location place;
-    place.line = line;
-    return place;
 }
 
 location ofEntry(const textEntry& entry) {
@@ -130,7 +121,7 @@ void checkIgnored(const inputCase& input, report& result) {
         const std::size_t end = input.content.find('\n', begin);
         const std::string content = contentOfLine(input.content.substr(begin, end - begin));
         const bool isForeign = !content.empty() && isOtherDialect(content, input.assign);
-        (isForeign ? foreign : lost).push_back(atLine(number));
+        (isForeign ? foreign : lost).push_back(location::ofLine(number));
     }
     if (!foreign.empty()) {
         result.add("wrong-dialect",
@@ -161,7 +152,7 @@ void checkInputEncoding(const inputCase& input, report& result) {
                                                "becomes part of the first key, which is not found."
                                              : "The file begins with a byte order mark, which is "
                                                "harmless as long as line 1 holds no entry.",
-                                    {atLine(1)});
+                                    {location::ofLine(1)});
         found.level = hidesKey ? severity::error : severity::note;
     }
 }

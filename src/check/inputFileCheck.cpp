@@ -1,5 +1,6 @@
 #include "check/inputFileCheck.hpp"
 
+#include "base/affixes.hpp"
 #include "base/classicText.hpp"
 #include "base/files.hpp"
 #include "base/numberText.hpp"
@@ -37,7 +38,7 @@ bool read(inputCase& input, report& result) {
 
 bool hasKeysOf(const inputCase& input, const std::string& group) {
     const auto first = input.inputs.map.lower_bound(group);
-    return first != input.inputs.map.end() && first->first.compare(0, group.size(), group) == 0;
+    return first != input.inputs.map.end() && startsWith(first->first, group);
 }
 
 /// Whether a key of the waves is given besides the depth, which Nemoh reads too.
@@ -45,7 +46,7 @@ bool hasWaveKeys(const inputCase& input) {
     const std::string group = "environment.wave.";
     const auto first = input.inputs.map.lower_bound(group);
     return std::any_of(first, input.inputs.map.end(), [&](const auto& entry) {
-        return entry.first.compare(0, group.size(), group) == 0 && entry.first != group + "depth";
+        return startsWith(entry.first, group) && entry.first != group + "depth";
     });
 }
 

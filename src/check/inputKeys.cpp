@@ -1,5 +1,6 @@
 // Keys that no task reads. The file belongs to the whole suite, so that a key counts as misspelt
 // only where it nearly is one that a task reads, or stands in another group than that.
+#include "base/affixes.hpp"
 #include "base/excerpt.hpp"
 #include "base/numberText.hpp"
 #include "check/inputCase.hpp"
@@ -15,7 +16,6 @@ namespace {
 
 constexpr std::size_t maxEdits = 2;
 constexpr std::size_t longestKey = 80; // that is compared with the known ones
-constexpr std::string_view bodyGroup = "hydroBody";
 
 char lower(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
@@ -88,7 +88,7 @@ const std::set<std::string_view>& knownGroups() {
     static const std::set<std::string_view> groups = [] {
         std::set<std::string_view> found = {""};
         for (const inputKey& key : keyTable()) {
-            if (key.name.substr(0, bodyGroup.size()) == bodyGroup) {
+            if (startsWith(key.name, bodyGroup)) {
                 continue;
             }
             const std::string_view group = groupOf(key.name);
@@ -119,7 +119,7 @@ bool isMisplaced(std::string_view key, std::string_view known) {
 /// The name of the body that a key is of, or that the file asks for.
 std::string bodyFor(const inputCase& input, std::string_view key) {
     const std::size_t dot = key.find(sorvikIO::memberDLM);
-    const bool isOfBody = key.substr(0, bodyGroup.size()) == bodyGroup && dot != key.npos;
+    const bool isOfBody = startsWith(key, bodyGroup) && dot != key.npos;
     return isOfBody ? std::string(key.substr(bodyGroup.size(), dot - bodyGroup.size()))
                     : input.body();
 }

@@ -1,7 +1,10 @@
+#include "base/affixes.hpp"
 #include "base/files.hpp"
 #include "base/numberText.hpp"
 #include "base/platform.hpp"
 #include "check/inputCase.hpp"
+#include "check/keyTable.hpp"
+#include "check/nemohCal.hpp"
 #include "check/quietly.hpp"
 #include "io/sorvikIO.hpp"
 #include "mesh/bodyMesh.hpp"
@@ -12,7 +15,6 @@
 namespace sorvik {
 namespace {
 
-constexpr std::size_t longestName = 80; // that Nemoh reads
 constexpr std::size_t extensionLength = 4;
 
 void demand(const inputCase& input, const std::string& key, report& result) {
@@ -26,8 +28,8 @@ std::string otherBodies(const inputCase& input) {
     const std::string ending = ".bemInput.meshName";
     std::string names;
     for (const auto& [key, value] : input.inputs.map) {
-        const bool isMesh = key.size() > ending.size() && key.compare(0, 9, "hydroBody") == 0 &&
-                            key.compare(key.size() - ending.size(), key.npos, ending) == 0;
+        const bool isMesh =
+            key.size() > ending.size() && startsWith(key, bodyGroup) && endsWith(key, ending);
         names += isMesh ? ' ' + key : "";
     }
     return names;
@@ -57,13 +59,13 @@ std::string projectName(const std::string& mesh, bool isKept) {
 void checkName(const inputCase& input, const std::string& key, const std::string& name,
                report& result) {
     const bool hasBlank = name.find_first_of(" \t\n") != name.npos;
-    if (hasBlank || name.size() > longestName) {
+    if (hasBlank || name.size() > longestMeshName) {
         addOfKey(result, "bad-file-name", input, key,
                  "The mesh comes into the project as \"" + name + "\", " +
                      (hasBlank ? "which holds a blank: Nemoh reads its name only up to there."
                                : "which has " + std::to_string(name.size()) +
                                      " characters: Nemoh reads at most " +
-                                     std::to_string(longestName) + "."));
+                                     std::to_string(longestMeshName) + "."));
     }
 }
 

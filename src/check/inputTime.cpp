@@ -1,6 +1,7 @@
 #include "base/files.hpp"
 #include "base/numberText.hpp"
 #include "check/inputCase.hpp"
+#include "check/keyTable.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -8,7 +9,6 @@
 namespace sorvik {
 namespace {
 
-const std::string prefix = "environment.wave.";
 const std::string startKey = "simulation.time.start";
 const std::string endKey = "simulation.time.end";
 const std::string stepKey = "simulation.print.dt";
@@ -27,29 +27,29 @@ struct highest {
 };
 
 highest highestFrequency(const inputCase& input) {
-    const std::string type = input.valueOf(prefix + "type");
-    const bool isInRadians = input.number(prefix + "useRadians") != 0;
+    const std::string type = input.valueOf(waveGroup + "type");
+    const bool isInRadians = input.number(waveGroup + "useRadians") != 0;
     const double factor = isInRadians ? 1 / twoPi : 1;
     if (type == "JONSWAP") {
-        return {prefix + "f1", input.number(prefix + "f1") * factor};
+        return {waveGroup + "f1", input.number(waveGroup + "f1") * factor};
     }
-    if (type == "custom" && !input.has(prefix + "file")) {
-        const std::vector<double> all = input.list(prefix + "frequency");
+    if (type == "custom" && !input.has(waveGroup + "file")) {
+        const std::vector<double> all = input.list(waveGroup + "frequency");
         const auto largest = std::max_element(all.begin(), all.end());
-        return {prefix + "frequency", largest == all.end() ? 0 : *largest * factor};
+        return {waveGroup + "frequency", largest == all.end() ? 0 : *largest * factor};
     }
     if (type != "regular") {
         return {};
     }
-    if (input.has(prefix + "period")) {
-        const double period = std::fabs(input.number(prefix + "period"));
-        return {prefix + "period", period > 0 ? 1 / period : 0};
+    if (input.has(waveGroup + "period")) {
+        const double period = std::fabs(input.number(waveGroup + "period"));
+        return {waveGroup + "period", period > 0 ? 1 / period : 0};
     }
-    if (input.has(prefix + "frequency")) {
-        return {prefix + "frequency",
-                std::fabs(input.inputs.read<double>(prefix + "frequency", 0.0))};
+    if (input.has(waveGroup + "frequency")) {
+        return {waveGroup + "frequency",
+                std::fabs(input.inputs.read<double>(waveGroup + "frequency", 0.0))};
     }
-    return {prefix + "omega", std::fabs(input.number(prefix + "omega")) / twoPi};
+    return {waveGroup + "omega", std::fabs(input.number(waveGroup + "omega")) / twoPi};
 }
 
 void checkStep(const inputCase& input, double step, report& result) {

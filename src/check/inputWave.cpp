@@ -8,8 +8,7 @@
 namespace sorvik {
 namespace {
 
-const std::string prefix = "environment.wave.";
-const std::string typeKey = prefix + "type";
+const std::string typeKey = waveGroup + "type";
 
 /// Adds that `key` has no effect because of `reason`.
 void addUnread(const inputCase& input, const std::string& key, const std::string& reason,
@@ -64,7 +63,7 @@ void checkOtherTypes(const inputCase& input, report& result) {
                       result);
         }
     }
-    const std::string precision = prefix + "precision";
+    const std::string precision = waveGroup + "precision";
     if (input.has(precision)) {
         addUnread(input, precision, "numbers have six digits.", result);
         result.findings.back().level = severity::note;
@@ -74,7 +73,7 @@ void checkOtherTypes(const inputCase& input, report& result) {
 void checkRegular(const inputCase& input, report& result) {
     std::string winner;
     for (const char* name : {"period", "frequency", "omega", "k", "length"}) { // by precedence
-        const std::string key = prefix + name;
+        const std::string key = waveGroup + name;
         if (!input.has(key)) {
             continue;
         }
@@ -85,43 +84,44 @@ void checkRegular(const inputCase& input, report& result) {
         }
     }
     if (winner.empty()) {
-        addOfKey(result, "missing-key", input, prefix + "period",
-                 "A regular wave needs one of " + prefix + "period, frequency, omega, k, length.");
+        addOfKey(result, "missing-key", input, waveGroup + "period",
+                 "A regular wave needs one of " + waveGroup +
+                     "period, frequency, omega, k, length.");
     }
-    if (!input.has(prefix + "amplitude")) {
-        addOfKey(result, "missing-key", input, prefix + "amplitude",
-                 "Without " + prefix + "amplitude the sea is flat.")
+    if (!input.has(waveGroup + "amplitude")) {
+        addOfKey(result, "missing-key", input, waveGroup + "amplitude",
+                 "Without " + waveGroup + "amplitude the sea is flat.")
             .level = severity::warning;
     }
 }
 
 void checkJonswap(const inputCase& input, report& result) {
-    const double first = input.number(prefix + "f0");
-    const double last = input.number(prefix + "f1");
-    const double peak = input.number(prefix + "fp");
+    const double first = input.number(waveGroup + "f0");
+    const double last = input.number(waveGroup + "f1");
+    const double peak = input.number(waveGroup + "fp");
     if (last <= first) {
-        addRange(input, prefix + "f1",
-                 numberText(last) + ", not above " + prefix + "f0, which is " + numberText(first) +
-                     '.',
+        addRange(input, waveGroup + "f1",
+                 numberText(last) + ", not above " + waveGroup + "f0, which is " +
+                     numberText(first) + '.',
                  result);
     } else if (peak < first || peak > last) {
-        addRange(input, prefix + "fp",
-                 numberText(peak) + ", outside the frequencies from " + prefix +
+        addRange(input, waveGroup + "fp",
+                 numberText(peak) + ", outside the frequencies from " + waveGroup +
                      "f0 to f1, which "
                      "are " +
                      numberText(first) + " to " + numberText(last) + '.',
                  result, severity::warning);
     }
-    if (input.has(prefix + "alpha") && input.number(prefix + "Hs") > 0) {
-        addUnread(input, prefix + "alpha", prefix + "Hs gives the height.", result);
+    if (input.has(waveGroup + "alpha") && input.number(waveGroup + "Hs") > 0) {
+        addUnread(input, waveGroup + "alpha", waveGroup + "Hs gives the height.", result);
     }
 }
 
 void checkCustom(const inputCase& input, report& result) {
-    const std::string file = prefix + "file";
+    const std::string file = waveGroup + "file";
     std::vector<std::size_t> counts;
     for (const char* name : {"amplitude", "frequency", "phase"}) {
-        const std::string key = prefix + name;
+        const std::string key = waveGroup + name;
         const bool isGiven = input.has(key);
         if (isGiven && input.has(file)) {
             addUnread(input, key, file + " wins.", result);
@@ -133,12 +133,12 @@ void checkCustom(const inputCase& input, report& result) {
         }
     }
     if (input.has(file)) {
-        if (input.has(prefix + "direction")) {
-            addUnread(input, prefix + "direction", file + " wins.", result);
+        if (input.has(waveGroup + "direction")) {
+            addUnread(input, waveGroup + "direction", file + " wins.", result);
         }
         checkedFile(input, file, result);
     } else if (counts.size() == 3 && (counts[1] != counts[0] || counts[2] != counts[0])) {
-        addRange(input, prefix + "frequency",
+        addRange(input, waveGroup + "frequency",
                  "a list of " + std::to_string(counts[1]) + ", with " + std::to_string(counts[0]) +
                      " amplitudes and " + std::to_string(counts[2]) +
                      " phases. Lists of one length are expected.",

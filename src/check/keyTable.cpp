@@ -1,5 +1,6 @@
 #include "check/keyTable.hpp"
 
+#include "base/affixes.hpp"
 #include "base/numberText.hpp"
 
 #include <algorithm>
@@ -7,7 +8,6 @@
 namespace sorvik {
 namespace {
 
-constexpr std::string_view bodyGroup = "hydroBody";
 constexpr std::string_view bodyMark = "hydroBodyB";
 
 // ---- The words of the table ----
@@ -82,7 +82,7 @@ std::string keyRange::text() const {
 
 std::string inputKey::nameFor(std::string_view body) const {
     std::string full(name);
-    if (full.compare(0, bodyMark.size(), bodyMark) == 0) {
+    if (startsWith(full, bodyMark)) {
         full.replace(bodyGroup.size(), 1, body);
     }
     return full;
@@ -201,11 +201,11 @@ const std::vector<inputKey>& keyTable() {
 
 const inputKey* findKey(std::string_view name) {
     // The name of a body may hold dots.
-    const bool isOfBody = name.compare(0, bodyGroup.size(), bodyGroup) == 0;
+    const bool isOfBody = startsWith(name, bodyGroup);
     const std::size_t member = isOfBody ? name.rfind(".bemInput.") : name.npos;
     const auto isNamed = [&](const inputKey& key) {
         return member == name.npos ? key.name == name
-                                   : key.name.substr(0, bodyMark.size()) == bodyMark &&
+                                   : startsWith(key.name, bodyMark) &&
                                          key.name.substr(bodyMark.size()) == name.substr(member);
     };
     const auto found = std::find_if(keyTable().begin(), keyTable().end(), isNamed);

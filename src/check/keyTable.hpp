@@ -8,6 +8,11 @@
 
 namespace sorvik {
 
+/// The names of keys of waves begin with it.
+inline const std::string waveGroup = "environment.wave.";
+/// The groups of keys of bodies are called so, followed by the name of the body.
+constexpr std::string_view bodyGroup = "hydroBody";
+
 enum class keyType { text, number, integer, list, point };
 
 /// The numbers that a key may have.

@@ -1,5 +1,6 @@
 #include "check/meshFile.hpp"
 
+#include "base/affixes.hpp"
 #include "base/classicText.hpp"
 #include "base/files.hpp"
 #include "base/littleEndian.hpp"
@@ -103,8 +104,7 @@ meshFileFacts inspectMeshFile(const std::string& file, long long panels, report&
     facts.ending = file.size() < 4 ? file : file.substr(file.size() - 4);
     facts.format = formatOf(head, size);
     const std::string expected = formatOfEnding(facts.ending);
-    if (!expected.empty() && facts.format != "unknown" &&
-        facts.format.compare(0, expected.size(), expected) != 0) {
+    if (!expected.empty() && facts.format != "unknown" && !startsWith(facts.format, expected)) {
         result.add("wrong-ending", "The ending " + facts.ending + " stands for " + expected +
                                        ", and the content is " + facts.format + ".");
         return facts;

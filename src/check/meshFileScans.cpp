@@ -28,12 +28,6 @@ bool isWord(std::string_view word, std::string_view small, std::string_view capi
     return word == small || word == capital;
 }
 
-location atLine(int line) {
-    location place;
-    place.line = line;
-    return place;
-}
-
 point3 readCorner(textScanner& in) {
     point3 p = {};
     for (double& value : p) {
@@ -53,10 +47,6 @@ recordArea areaOf(const std::array<point3, 4>& p, long long record) {
     const double first = norm(areaVector({p[0], p[1], p[2]}));
     const double second = norm(areaVector({p[0], p[2], p[3]}));
     return {first + second, record % 2 == 0 ? first : 0};
-}
-
-std::string percent(double share) {
-    return std::to_string(std::lround(100 * share)) + " %";
 }
 
 /// A node number as the reader takes it, -1 for one beyond all nodes.
@@ -85,7 +75,7 @@ public:
         }
         ++panels;
         if (!isKnown) {
-            unknown.push_back(atLine(number));
+            unknown.push_back(location::ofLine(number));
         }
         return false;
     }
@@ -123,7 +113,7 @@ int readNodeLines(std::istream& in, int& number, report& result) {
                  "The line that ends the nodes has " + std::to_string(numbers) +
                      " numbers: the reader takes four, and every panel is read with its corners "
                      "shifted.",
-                 {atLine(number)})
+                 {location::ofLine(number)})
             .cure = "End the nodes with the line `0 0. 0. 0.`.";
     }
     return highest;
@@ -146,12 +136,12 @@ void scanAsciiStl(std::istream& in, long long panels, meshFileFacts& facts, repo
         if (isWord(word, "facet", "FACET")) {
             ++facts.announced;
             if (line.find("nan") != line.npos || line.find("NaN") != line.npos) {
-                noNumbers.push_back(atLine(number));
+                noNumbers.push_back(location::ofLine(number));
             }
         } else if (isWord(word, "endfacet", "ENDFACET")) {
             ++ends;
         } else if (isWord(word, "solid", "SOLID") && number > 1) {
-            solids.push_back(atLine(number));
+            solids.push_back(location::ofLine(number));
         }
     }
     facts.read = std::min(panels, facts.announced);
@@ -206,7 +196,7 @@ void scanGdf(std::istream& in, meshFileFacts& facts, report& result) {
                   result);
     } else if (sum.used < (1 - 1e-6) * sum.whole) {
         result.add("unread-records",
-                   used + " are used, " + percent(sum.used / sum.whole) +
+                   used + " are used, " + percentText(sum.used / sum.whole, 0) +
                        " of their area: a panel in an odd place gives the triangle of its first "
                        "three corners, one in an even place gives none.");
     }
@@ -230,7 +220,7 @@ void scanNemohMesh(std::istream& in, meshFileFacts& facts, report& result) {
         result
             .add("unread-records",
                  "The line that ends the panels is indented: a Nemoh project counts it as a panel.",
-                 {atLine(number)})
+                 {location::ofLine(number)})
             .cure = "Begin the last line with its zero.";
     }
     if (!scan.unknown.empty()) {

@@ -9,6 +9,9 @@
 
 namespace sorvik {
 
+/// Characters that Nemoh 3 keeps of the name of a mesh file.
+constexpr std::size_t longestMeshName = 80;
+
 /// A motion or force of a body.
 struct calDof {
     int type = 1;      ///< 1 for a translation, 2 for a rotation

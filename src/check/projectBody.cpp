@@ -16,8 +16,6 @@
 namespace sorvik {
 namespace {
 
-constexpr std::size_t longestName = 80; // characters that Nemoh 3 keeps of a name
-
 /// A body of a project while it is checked.
 struct checkedBody {
     const nemohCal& cal;
@@ -42,10 +40,11 @@ void checkName(const std::string& found, const calBody& body, report& result) {
         result.add("bad-file-name",
                    "Nemoh 3 reads \"" + body.mesh + "\" of the name \"" + body.meshText + "\".",
                    {place});
-    } else if (body.mesh.size() > longestName) {
+    } else if (body.mesh.size() > longestMeshName) {
         result.add("bad-file-name",
                    "The name " + body.mesh + " has " + std::to_string(body.mesh.size()) +
-                       " characters, of which Nemoh 3 keeps " + std::to_string(longestName) + ".",
+                       " characters, of which Nemoh 3 keeps " + std::to_string(longestMeshName) +
+                       ".",
                    {place});
     }
     if (found.empty()) {

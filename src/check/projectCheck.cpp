@@ -12,10 +12,6 @@
 namespace sorvik {
 namespace {
 
-std::string range(double from, double to, const std::string& unit) {
-    return "from " + numberText(from) + " to " + numberText(to) + " " + unit;
-}
-
 void addCaseFacts(const nemohCal& cal, report& result) {
     const bool isDeep = cal.depth.value == 0;
     const auto whole = [](const calNumber& number) { return wholeNumber(number.value); };
@@ -26,11 +22,11 @@ void addCaseFacts(const nemohCal& cal, report& result) {
     result.addFact("bodies", "Bodies", whole(cal.bodyCount));
     result.addFact("frequencyMode", "", whole(cal.mode));
     result.addFact("frequencies", "Frequencies", whole(cal.frequencies),
-                   range(cal.low, cal.high, unit));
+                   rangeText(cal.low, cal.high, unit));
     result.addFact("frequency.first", "", cal.low, unit);
     result.addFact("frequency.last", "", cal.high, unit);
     result.addFact("directions", "Directions", whole(cal.directions),
-                   range(cal.firstDirection, cal.lastDirection, "degrees"));
+                   rangeText(cal.firstDirection, cal.lastDirection, "degrees"));
     result.addFact("direction.first", "", cal.firstDirection, "degrees");
     result.addFact("direction.last", "", cal.lastDirection, "degrees");
 }

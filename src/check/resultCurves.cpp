@@ -58,10 +58,6 @@ struct matrixCurves {
     }
 };
 
-std::string percent(double share) {
-    return numberText(std::round(1e4 * share) / 100) + " %";
-}
-
 void checkSymmetry(const matrixCurves& matrix, const char* name, const std::string& what,
                    report& result) {
     double worst = 0;
@@ -84,7 +80,7 @@ void checkSymmetry(const matrixCurves& matrix, const char* name, const std::stri
     if (!where.empty()) {
         result.add("unsymmetric",
                    "The matrix of " + what + " differs from its transpose by up to " +
-                       percent(worst) + " of its largest term.",
+                       percentText(worst, 2) + " of its largest term.",
                    std::move(where));
     }
 }
@@ -110,7 +106,7 @@ void checkDamping(const matrixCurves& damping, report& result) {
     if (!where.empty()) {
         finding& added = result.add("negative-damping",
                                     "Damping on the diagonal is negative, down to " +
-                                        percent(worst) + " of the largest damping.",
+                                        percentText(worst, 2) + " of the largest damping.",
                                     std::move(where));
         added.level = worst > damagingShare ? severity::error : severity::warning;
     }

@@ -72,7 +72,7 @@ void writeExcitation(std::ostream& out, const nemohResults& r) {
     }
 }
 
-void writeHydrostatics(std::ostream& out, const nemohResults& r) {
+void writeHydrostaticRows(std::ostream& out, const nemohResults& r) {
     out << "quantity,i,j,value\n";
     for (std::size_t place = 0; place < r.stiffness.size(); ++place) {
         csvRow row(out);
@@ -104,7 +104,8 @@ std::string writeResultTables(const std::string& folder, const nemohResults& res
     };
     write("radiation.csv", !results.addedMass.empty(), writeRadiation);
     write("excitation.csv", !results.amplitudes.empty(), writeExcitation);
-    write("hydrostatics.csv", !results.stiffness.empty() || results.volume >= 0, writeHydrostatics);
+    write("hydrostatics.csv", !results.stiffness.empty() || results.volume >= 0,
+          writeHydrostaticRows);
     return failed;
 }
 

@@ -8,10 +8,8 @@
 namespace sorvik {
 namespace {
 
-std::string range(const std::vector<double>& values, const std::string& unit) {
-    return values.empty() ? ""
-                          : "from " + numberText(values.front()) + " to " +
-                                numberText(values.back()) + " " + unit;
+std::string spanText(const std::vector<double>& values, const std::string& unit) {
+    return values.empty() ? "" : rangeText(values.front(), values.back(), unit);
 }
 
 void addSizeFacts(const nemohResults& r, std::size_t bodies, report& result) {
@@ -19,8 +17,10 @@ void addSizeFacts(const nemohResults& r, std::size_t bodies, report& result) {
     result.addFact("bodies", "Bodies", count(bodies));
     result.addFact("motions", "Motions", count(r.motions.size()));
     result.addFact("forces", "Forces", count(r.forces.size()));
-    result.addFact("frequencies", "Frequencies", count(r.omegas.size()), range(r.omegas, "rad/s"));
-    result.addFact("directions", "Directions", count(r.angles.size()), range(r.angles, "degrees"));
+    result.addFact("frequencies", "Frequencies", count(r.omegas.size()),
+                   spanText(r.omegas, "rad/s"));
+    result.addFact("directions", "Directions", count(r.angles.size()),
+                   spanText(r.angles, "degrees"));
     if (r.volume >= 0) {
         result.addFact("volume", "Displaced volume", r.volume, "m3");
     }

@@ -1,6 +1,7 @@
 #include "check/spectrumCheck.hpp"
 
 #include "base/numberText.hpp"
+#include "check/keyTable.hpp"
 #include "io/reader.hpp"
 #include "waves/Jonswap.hpp"
 #include "waves/angles.hpp"
@@ -11,12 +12,6 @@
 namespace sorvik {
 
 namespace {
-
-const std::string prefix = "environment.wave.";
-
-std::string percent(double share) {
-    return numberText(std::round(share * 1000) / 10) + " %";
-}
 
 /// `value` with `digits` significant digits.
 double rounded(double value, int digits) {
@@ -90,9 +85,9 @@ spectrumCheck::spectrumCheck(const reader& config, const Jonswap& sea, const sea
                              double duration)
     : facts_(facts), duration_(duration) {
     const auto number = [&](const char* name, double fallback) {
-        return config.inputs.read<double>(prefix + name, fallback);
+        return config.inputs.read<double>(waveGroup + name, fallback);
     };
-    radiansPerUnit_ = config.inputs.read<int>(prefix + "useRadians", 0) != 0 ? 1 : 2 * pi;
+    radiansPerUnit_ = config.inputs.read<int>(waveGroup + "useRadians", 0) != 0 ? 1 : 2 * pi;
     fp_ = number("fp", 0.1);
     f0_ = number("f0", 0.01);
     f1_ = number("f1", 10.0);
@@ -195,9 +190,10 @@ void spectrumCheck::addGridFindings(report& result) const {
     }
     if (!hasAllEnergy()) {
         finding& cut = result.add(
-            "cut-off-energy",
-            percent(below_) + " of the spectrum's energy lies below f0 = " + numberText(f0_) +
-                unit + ", " + percent(above_) + " above f1 = " + numberText(f1_) + unit + ".");
+            "cut-off-energy", percentText(below_, 1) +
+                                  " of the spectrum's energy lies below f0 = " + numberText(f0_) +
+                                  unit + ", " + percentText(above_, 1) +
+                                  " above f1 = " + numberText(f1_) + unit + ".");
         cut.cure = proposal();
         cut.level = fp_ > f0_ && fp_ < f1_ ? severity::warning : severity::error;
     }

@@ -1,5 +1,6 @@
 #include "io/aliasResolver.hpp"
 
+#include "base/affixes.hpp"
 #include "base/excerpt.hpp"
 #include "io/inputLimits.hpp"
 #include "io/printer.hpp"
@@ -11,15 +12,8 @@ namespace sorvik {
 
 namespace {
 
-constexpr std::string_view sourceWord = "source";
-
-bool startsWith(std::string_view text, std::string_view head) {
-    return text.substr(0, head.size()) == head;
-}
-
 bool isAlias(std::string_view key) {
-    return key.size() > sourceWord.size() &&
-           key.substr(key.size() - sourceWord.size()) == sourceWord;
+    return key.size() > sourceWord.size() && endsWith(key, sourceWord);
 }
 
 std::size_t commonLength(std::string_view a, std::string_view b) {

@@ -10,6 +10,9 @@
 
 namespace sorvik {
 
+/// Ends the keys of aliases.
+constexpr std::string_view sourceWord = "source";
+
 /// Resolves the `source` entries of a map in passes, as if every pass walked the whole map.
 ///
 /// An entry, once it has been carried over to an alias, has nothing more to give to it, since no

@@ -16,7 +16,7 @@ constexpr double cellsPerMetre = 8192;
 constexpr double reach = 1.1e-5;
 static_assert(2 * reach * cellsPerMetre < 1, "a corner reaches into two cells along an axis");
 
-bool isFinite(const v3<float>& p) {
+bool isFinitePoint(const v3<float>& p) {
     return std::isfinite(p.x) && std::isfinite(p.y) && std::isfinite(p.z);
 }
 
@@ -42,7 +42,7 @@ bool isSame(const v3<float>& a, const v3<float>& b) {
 }
 
 /// The lower of two nodes, 0 being none.
-int lower(int a, int b) {
+int lowerNode(int a, int b) {
     return a == 0 ? b : b == 0 ? a : std::min(a, b);
 }
 
@@ -96,7 +96,7 @@ void nodeMatcher::addPanel(const v3<float>& a, const v3<float>& b, const v3<floa
 
 /// The lowest node within the tolerance, or 0.
 int nodeMatcher::find(const v3<float>& p) const {
-    if (!isFinite(p)) {
+    if (!isFinitePoint(p)) {
         return 0;
     }
     for (int n = buckets_[bucketOf(p)]; n != 0; n = at(n).previous) {
@@ -110,7 +110,8 @@ int nodeMatcher::find(const v3<float>& p) const {
     const cellRange zs(p.z);
     xs.forEach([&](double x) {
         ys.forEach([&](double y) {
-            zs.forEach([&](double z) { lowest = lower(lowest, lowestIn(bucketOf(x, y, z), p)); });
+            zs.forEach(
+                [&](double z) { lowest = lowerNode(lowest, lowestIn(bucketOf(x, y, z), p)); });
         });
     });
     return lowest;
@@ -120,7 +121,7 @@ int nodeMatcher::lowestIn(std::size_t bucket, const v3<float>& p) const {
     int lowest = 0;
     for (int n = buckets_[bucket]; n != 0; n = at(n).previous) {
         if (isNear(p, at(n).place)) {
-            lowest = lower(lowest, n);
+            lowest = lowerNode(lowest, n);
         }
     }
     return lowest;
@@ -144,7 +145,7 @@ int nodeMatcher::add(const v3<float>& p, bool isFirstMatch) {
 /// Nothing is near a node that is not finite: it is in no bucket.
 void nodeMatcher::putInBucket(int number) {
     node& added = nodes_[static_cast<std::size_t>(number) - 1];
-    if (isFinite(added.place)) {
+    if (isFinitePoint(added.place)) {
         int& latest = buckets_[bucketOf(added.place)];
         added.previous = latest;
         latest = number;

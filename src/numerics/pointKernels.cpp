@@ -39,7 +39,7 @@ void crossAllInto(int n, std::ptrdiff_t stride, const double* a, const double* b
     }
 }
 
-void write(double& entry, double value) {
+void overwrite(double& entry, double value) {
     entry = value;
 }
 
@@ -98,7 +98,7 @@ void matrixOp::crossMat(const double* a, double* M) {
 }
 
 void matrixOp::crossProduct(const double* a, const double* b, double* c, const int& stride) {
-    crossInto(stride, a, b, c, write);
+    crossInto(stride, a, b, c, overwrite);
 }
 
 void matrixOp::crossProductAdd(const double* a, const double* b, double* c, const int& stride) {
@@ -107,7 +107,7 @@ void matrixOp::crossProductAdd(const double* a, const double* b, double* c, cons
 
 void matrixOp::crossProductAll(int n, const double* a, const double* b, double* c,
                                const int& stride) {
-    crossAllInto(n, stride, a, b, c, write);
+    crossAllInto(n, stride, a, b, c, overwrite);
 }
 
 void matrixOp::crossProductAllAdd(int n, const double* a, const double* b, double* c,

@@ -14,7 +14,7 @@ namespace {
 
 constexpr float integerPeak = 32767;
 
-std::string number(double value) {
+std::string numberHtml(double value) {
     return escapeHtml(numberText(value));
 }
 
@@ -64,7 +64,7 @@ std::string choiceHtml(const std::string& id, const std::string& label,
                        const std::vector<choice>& choices, double chosen) {
     std::string html = "<label>" + label + " <select id=\"" + id + "\">";
     for (const choice& each : choices) {
-        html += "<option value=\"" + number(each.value) + "\"" +
+        html += "<option value=\"" + numberHtml(each.value) + "\"" +
                 (each.value == chosen ? " selected" : "") + ">" + each.text + "</option>";
     }
     return html + "</select></label>\n";
@@ -104,7 +104,7 @@ std::string controlsHtml(const surfaceRun& run, double peak) {
 std::string stageHtml(const surfaceRun& run, double peak) {
     return "<section class=\"stage\" aria-label=\"Surface in three dimensions\" data-columns=\"" +
            std::to_string(run.columns) + "\" data-rows=\"" + std::to_string(run.rows) +
-           "\" data-peak=\"" + number(peak) +
+           "\" data-peak=\"" + numberHtml(peak) +
            "\">\n<noscript><p>The surface needs JavaScript; all else on this page does not."
            "</p></noscript>\n" +
            controlsHtml(run, peak) + "</section>\n";
@@ -131,7 +131,7 @@ std::string gridHtml(const surfaceRun& run, double peak) {
     return stageHtml(run, peak) + "<p>" + thinningText(run) +
            " The elevations of the surface are rounded to 1/32767 of the "
            "largest, " +
-           number(peak) + " m.</p>\n";
+           numberHtml(peak) + " m.</p>\n";
 }
 
 std::string nameOf(const surfaceRun& run, const surfaceProbe& probe) {
@@ -155,7 +155,7 @@ std::string rowHtml(const surfaceRun& run, const surfaceProbe& probe) {
     std::string html = "<tr><th scope=\"row\">" + escapeHtml(nameOf(run, probe)) + "</th>";
     constexpr double roundTo = 1e-4; // m
     for (const double value : {double(*high), double(*low), mean, 4 * deviation}) {
-        html += "<td>" + number(std::round(value / roundTo) * roundTo + 0.0) + "</td>";
+        html += "<td>" + numberHtml(std::round(value / roundTo) * roundTo + 0.0) + "</td>";
     }
     return html + "</tr>\n";
 }
@@ -182,7 +182,7 @@ std::string seriesHtml(const surfaceRun& run) {
         const std::vector<double> values(probe.elevations.begin(), probe.elevations.end());
         html +=
             "<div class=\"series\" data-name=\"" + escapeHtml(probe.name) + "\" data-x=\"" +
-            number(probe.x) + "\" data-y=\"" + number(probe.y) + "\">\n" +
+            numberHtml(probe.x) + "\" data-y=\"" + numberHtml(probe.y) + "\">\n" +
             svgOf({nameOf(run, probe), "Time [s]", "Elevation [m]", {{"", run.times, values}}}) +
             "</div>\n";
     }
@@ -213,7 +213,7 @@ std::string methodText(const spectrumEstimate& spectrum) {
            std::to_string(spectrum.segments) +
            " overlapping segments of the whole series, a start-up ramp included, each under Hann's "
            "window. The resolution is " +
-           number(spectrum.resolution) +
+           numberHtml(spectrum.resolution) +
            " Hz. A curve ends a little after the frequency above which a thousandth of the "
            "variance lies.</p>\n";
 }

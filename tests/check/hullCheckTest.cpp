@@ -3,6 +3,7 @@
 #include "check/quietly.hpp"
 #include "mesh/stlFormat.hpp"
 #include "nemoh/nemohIO.hpp"
+#include "support/findings.hpp"
 #include "support/program.hpp"
 
 #include <algorithm>
@@ -76,19 +77,9 @@ public:
         return checkHull(writeFile(folder_.path(name), text), options_);
     }
 
-    static std::vector<std::string> namesOf(const hullReport& checked) {
-        std::vector<std::string> names;
-        for (const finding& each : checked.result.findings) {
-            names.push_back(each.name);
-        }
-        return names;
-    }
-
     temporaryFolder folder_;
     hullOptions options_;
 };
-
-using names = std::vector<std::string>;
 
 TEST_F(hullCheck, hydrostaticsOfABoxAreExact) {
     options_.level = -0.5;
@@ -160,7 +151,7 @@ TEST_F(hullCheck, findsEachFaultAndNothingInASoundHull) {
         return panels;
     };
     const triangle low = box()[2]; // a side's lowest
-    const std::vector<std::pair<names, panelList>> cases = {
+    const std::vector<std::pair<std::vector<std::string>, panelList>> cases = {
         {{}, box()},
         {{"open-edges", "unequal-volumes"}, edited([](panelList& p) { p.erase(p.begin() + 2); })},
         {{"half-hull", "unequal-volumes"}, edited([](panelList& p) {
@@ -192,7 +183,7 @@ TEST_F(hullCheck, findsEachFaultAndNothingInASoundHull) {
         {{"millimetres"}, mapped(box(), [](const v3<float>& p) { return 1000.0F * p; })},
     };
     for (const auto& [expected, panels] : cases) {
-        EXPECT_THAT(namesOf(check(panels)), ElementsAreArray(expected));
+        EXPECT_THAT(namesOf(check(panels).result), ElementsAreArray(expected));
     }
 }
 
@@ -277,7 +268,7 @@ TEST_F(hullCheck, comparesWithOptions) {
 
 TEST_F(hullCheck, leavesOutTheLineThatEndsANemohMesh) {
     const std::string nodes = "2 1\n1 0 1 -1\n2 1 1 -1\n3 1 2 -1\n4 0 0 0\n0 0 0 0\n1 2 3 1\n";
-    EXPECT_THAT(namesOf(checkText("hull.dat", nodes + "0 0 0 0\n")),
+    EXPECT_THAT(namesOf(checkText("hull.dat", nodes + "0 0 0 0\n").result),
                 testing::Not(testing::Contains("panel-without-area")));
     const report two = checkText("twice.dat", nodes + "4 4 4 4\n0 0 0 0\n").result;
     EXPECT_EQ(two.find("panel-without-area")->count, 2U);

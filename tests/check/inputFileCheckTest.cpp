@@ -1,6 +1,7 @@
 #include "check/inputFileCheck.hpp"
 
 #include "check/keyTable.hpp"
+#include "support/findings.hpp"
 #include "support/program.hpp"
 
 #include <gmock/gmock.h>
@@ -34,14 +35,6 @@ std::string inputWith(const std::string& more, const std::string& without = "") 
         text += without.find(key) == without.npos ? key + (" = " + shown) + '\n' : "";
     }
     return text + more;
-}
-
-std::vector<std::string> names(const report& result) {
-    std::vector<std::string> found;
-    for (const finding& each : result.findings) {
-        found.push_back(each.name);
-    }
-    return found;
 }
 
 struct faultyInput {
@@ -114,7 +107,7 @@ TEST(checkInput, findsEachFaultAndNothingElse) {
         SCOPED_TRACE(each.more + " without " + each.without);
         const report result = checkInputText("case.m", inputWith(each.more, each.without), {});
         std::string found;
-        for (const std::string& name : names(result)) {
+        for (const std::string& name : namesOf(result)) {
             found += (found.empty() ? "" : " ") + name;
         }
         EXPECT_EQ(found, each.expected);
@@ -135,7 +128,7 @@ TEST(checkInput, namesTheLineOfAKeyInBlocks) {
 
 TEST(checkInput, knowsEncodingAndDialect) {
     const auto check = [](const char* file, const std::string& text) {
-        return names(checkInputText(file, text, {}));
+        return namesOf(checkInputText(file, text, {}));
     };
     using testing::ElementsAre;
     EXPECT_THAT(check("a.m", "\xEF\xBB\xBF"
@@ -151,7 +144,7 @@ TEST(checkInput, demandsTheKeysOfTheTaskAlone) {
     const auto check = [](inputTask task, const std::string& text) {
         inputOptions options;
         options.task = task;
-        return names(checkInputText("case.m", text, options));
+        return namesOf(checkInputText("case.m", text, options));
     };
     using testing::ElementsAre;
     EXPECT_THAT(check(inputTask::both, "a = 1"), ElementsAre());
@@ -170,7 +163,7 @@ TEST(checkInput, findsFilesThatEarlierRunsLeft) {
     writeFile(folder.path("time.dat"), "0\n");
     inputOptions options;
     options.outputFolder = folder.path();
-    EXPECT_THAT(names(checkInputText("case.m", inputWith(""), options)),
+    EXPECT_THAT(namesOf(checkInputText("case.m", inputWith(""), options)),
                 testing::ElementsAre("stale-time-file"));
 }
 
@@ -182,7 +175,7 @@ TEST(checkInput, hasNothingAgainstTheExamples) {
         if (entry.path().extension() == ".m") {
             SCOPED_TRACE(entry.path());
             std::filesystem::current_path(entry.path().parent_path());
-            EXPECT_THAT(names(checkInput(entry.path().filename().string(), {})),
+            EXPECT_THAT(namesOf(checkInput(entry.path().filename().string(), {})),
                         testing::ElementsAre());
             ++count;
         }

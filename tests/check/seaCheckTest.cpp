@@ -41,7 +41,7 @@ struct seaTest : testing::Test {
     }
 };
 
-std::string namesOf(const report& result) {
+std::string levelsAndNamesOf(const report& result) {
     std::string names;
     for (const finding& each : result.findings) {
         names += std::string(nameOf(each.level)) + " " + each.name + "\n";
@@ -93,7 +93,7 @@ TEST_F(seaTest, findsWhatIsWrong) {
         {wave("amplitude = 1.7 depth = 4", oneWave), "warning steep\n"},
     };
     for (const auto& each : cases) {
-        EXPECT_EQ(namesOf(check(each.input)), each.findings) << each.input;
+        EXPECT_EQ(levelsAndNamesOf(check(each.input)), each.findings) << each.input;
     }
 }
 
@@ -113,7 +113,7 @@ TEST_F(seaTest, namesKeysThatCureTheDefaultGrid) {
             }
         }
         const report after = check(wave(keys + level + " type = JONSWAP", seed));
-        EXPECT_EQ(namesOf(after), "") << keys;
+        EXPECT_EQ(levelsAndNamesOf(after), "") << keys;
         EXPECT_NEAR(value(after, "Hs.table"), value(before, "Hs.wanted"),
                     0.005 * value(before, "Hs.wanted"));
     }
@@ -125,7 +125,7 @@ TEST_F(seaTest, addsUpComponents) {
     const std::string table = folder.path("components");
     globals::m_g = {5};
     const report result = checkSea(writeFile(folder.path("sea.m"), input), {table, ""});
-    EXPECT_EQ(namesOf(result), "warning steep\n");
+    EXPECT_EQ(levelsAndNamesOf(result), "warning steep\n");
     EXPECT_EQ(globals::m_g, std::vector<double>{5}); // of this process still
     globals::m_g = {0, 0, -9.81};
     const std::pair<const char*, double> facts[] = {
@@ -226,7 +226,7 @@ TEST_F(seaTest, comparesATableWithTheComponents) {
     };
     const std::string table = folder.path("table");
     for (const auto& [text, findings] : tables) {
-        EXPECT_EQ(namesOf(check(oneWave, writeFile(table, text))), findings) << text;
+        EXPECT_EQ(levelsAndNamesOf(check(oneWave, writeFile(table, text))), findings) << text;
     }
     EXPECT_THROW(check(oneWave, folder.path("none")), cannotCheck);
 
@@ -237,7 +237,7 @@ TEST_F(seaTest, comparesATableWithTheComponents) {
     EXPECT_EQ(runProgram({"-waveElevation", "-f", "sea.m"}, folder.path()).status, 0);
     const report result =
         checkSea(folder.path("sea.m"), {"", folder.path("sea/waveElevation.dat")});
-    EXPECT_EQ(namesOf(result), "");
+    EXPECT_EQ(levelsAndNamesOf(result), "");
     EXPECT_EQ(value(result, "table.instants"), 1201);
     EXPECT_NEAR(value(result, "table.Hm0"), 2, 0.01);
     EXPECT_NEAR(value(result, "table.Tz"), value(result, "T02"), 0.3);
@@ -250,7 +250,7 @@ TEST(examples, areSoundSeas) {
                              "5-crossing-seas/crossingSea.m", "6-json/mooredBarge.m"}) {
         const std::filesystem::path file = examples / name;
         std::filesystem::current_path(file.parent_path());
-        EXPECT_EQ(namesOf(checkSea(file.filename().string(), {})), "") << name;
+        EXPECT_EQ(levelsAndNamesOf(checkSea(file.filename().string(), {})), "") << name;
     }
     std::filesystem::current_path(before);
 }

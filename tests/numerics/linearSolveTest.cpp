@@ -54,7 +54,7 @@ TEST(linearSolve, endsTheProcessWithAMessage) {
 }
 
 /// The upper left part of a matrix with rows of four.
-struct corner : mMatrix {
+struct cornerBlock : mMatrix {
     using mMatrix::mMatrix;
     double* v(int i, int j) override { return data + std::ptrdiff_t{4} * i + j; }
     const double* v(int i, int j) const override { return data + std::ptrdiff_t{4} * i + j; }
@@ -62,7 +62,7 @@ struct corner : mMatrix {
 
 TEST(mMatrix, letsADerivedClassPlaceItsRows) {
     numbers storage = {9, 1, 2, 3, 50, 4, 5, 6, 50, 0, 0};
-    corner M(2, 3, storage, 1);
+    cornerBlock M(2, 3, storage, 1);
     M(0, 0) = -30;
     EXPECT_EQ(outputOf([&] { mMatrix::print(M); }), "\t-30\t2\t3\n\t4\t5\t6\n");
     M.transpose();

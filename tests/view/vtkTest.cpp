@@ -34,7 +34,7 @@ std::map<std::string, std::string> arraysOf(const std::string& file) {
 }
 
 template <class Number>
-std::vector<Number> numbers(const std::string& bytes) {
+std::vector<Number> numbersIn(const std::string& bytes) {
     std::vector<Number> values(bytes.size() / sizeof(Number));
     std::memcpy(values.data(), bytes.data(), bytes.size());
     return values;
@@ -53,17 +53,17 @@ TEST(writeVtkHull, writesPanelsWithTheirData) {
     ASSERT_EQ(writeVtkHull(folder.path("new"), "a", hull, 0), "");
     auto whole = arraysOf(folder.path("new/a.vtp"));
     EXPECT_EQ(whole["Float32 Points"].size(), 7 * 3 * 4);
-    EXPECT_THAT(numbers<std::int64_t>(whole["Int64 connectivity"]),
+    EXPECT_THAT(numbersIn<std::int64_t>(whole["Int64 connectivity"]),
                 ElementsAre(0, 1, 2, 1, 0, 3, 4, 5, 6, 0, 0, 1));
-    EXPECT_THAT(numbers<std::int64_t>(whole["Int64 offsets"]), ElementsAre(3, 6, 9, 12));
-    EXPECT_THAT(numbers<std::int32_t>(whole["Int32 panel"]), ElementsAre(1, 2, 3, 4));
-    EXPECT_THAT(numbers<char>(whole["UInt8 wet"]), ElementsAre(1, 2, 0, 1));
-    EXPECT_THAT(numbers<char>(whole["UInt8 open-edges"]), ElementsAre(1, 1, 0, 0));
-    EXPECT_THAT(numbers<char>(whole["UInt8 panel-without-area"]), ElementsAre(0, 0, 0, 1));
-    const auto normals = numbers<float>(whole["Float32 Normals"]);
+    EXPECT_THAT(numbersIn<std::int64_t>(whole["Int64 offsets"]), ElementsAre(3, 6, 9, 12));
+    EXPECT_THAT(numbersIn<std::int32_t>(whole["Int32 panel"]), ElementsAre(1, 2, 3, 4));
+    EXPECT_THAT(numbersIn<char>(whole["UInt8 wet"]), ElementsAre(1, 2, 0, 1));
+    EXPECT_THAT(numbersIn<char>(whole["UInt8 open-edges"]), ElementsAre(1, 1, 0, 0));
+    EXPECT_THAT(numbersIn<char>(whole["UInt8 panel-without-area"]), ElementsAre(0, 0, 0, 1));
+    const auto normals = numbersIn<float>(whole["Float32 Normals"]);
     EXPECT_FLOAT_EQ(normals.at(1), -2 / std::sqrt(5.0F));
     EXPECT_THAT(std::vector<float>(normals.end() - 3, normals.end()), ElementsAre(0, 0, 0));
-    EXPECT_NEAR(numbers<double>(whole["Float64 area"]).at(0), std::sqrt(5) / 2, 1e-7);
+    EXPECT_NEAR(numbersIn<double>(whole["Float64 area"]).at(0), std::sqrt(5) / 2, 1e-7);
     EXPECT_EQ(arraysOf(folder.path("new/a-wet.vtp"))["Int64 offsets"].size(), 4 * 8);
 
     // Nothing is written through a link.
@@ -88,8 +88,8 @@ TEST(writeVtkSurface, writesFramesAndTheirTimes) {
         {}, {}, 1,         1};
     ASSERT_EQ(writeVtkSurface(folder.path(), run), "");
     auto last = arraysOf(folder.path("surface0001.vts"));
-    EXPECT_THAT(numbers<float>(last["Float32 elevation"]), ElementsAre(1, 2, 3, 4, 5, 6));
-    EXPECT_THAT(numbers<float>(last["Float32 Points"]),
+    EXPECT_THAT(numbersIn<float>(last["Float32 elevation"]), ElementsAre(1, 2, 3, 4, 5, 6));
+    EXPECT_THAT(numbersIn<float>(last["Float32 Points"]),
                 ElementsAre(0, -5, 1, 1, -5, 2, 2, -5, 3, 0, 5, 4, 1, 5, 5, 2, 5, 6));
     EXPECT_THAT(readFile(folder.path("surface.pvd")),
                 HasSubstr("<DataSet timestep=\"0.1\" part=\"0\" file=\"surface0000.vts\"/>\n"

@@ -17,12 +17,12 @@ using namespace sorvik;
 
 namespace {
 
-constexpr double g = 9.81;
+constexpr double gravity = 9.81;
 using values = std::vector<double>;
 
 TEST(waveModel, isHydrostaticInStillWater) {
     const reader config = configOf("environment.ground.level = -40\n");
-    globals::set(3, {0, 0, -g}, 1025, 1.2, 3);
+    globals::set(3, {0, 0, -gravity}, 1025, 1.2, 3);
     const waveModel model(config);
     EXPECT_EQ(model.stretchingDepth(), 43);
     fluidState state(3);
@@ -36,7 +36,7 @@ TEST(waveModel, isHydrostaticInStillWater) {
     EXPECT_THAT(state.depthBelowSurface, testing::ElementsAre(0, testing::Le(0), 10));
     EXPECT_EQ(state.velocity, values(9));
     model.pressure(3, state.positions.data(), state.density.data());
-    EXPECT_EQ(state.density, (values{0, 0, 1025 * g * 10}));
+    EXPECT_EQ(state.density, (values{0, 0, 1025 * gravity * 10}));
 }
 
 TEST(waveModel, stretchesTheMotionToTheSurface) {
@@ -44,12 +44,12 @@ TEST(waveModel, stretchesTheMotionToTheSurface) {
     const reader config =
         configOf("environment.wave = {\namplitude = 4\nfrequency = 1\nphase = 0\n"
                  "useRadians = 1\ndepth = 1000\nrampTime = 12.566370614359172\n}\n");
-    globals::set(3, {0, 0, -g}, 1000, 1, 5);
+    globals::set(3, {0, 0, -gravity}, 1000, 1, 5);
     std::unique_ptr<waveModel> sea;
     outputOf([&] { sea = std::make_unique<customWave>(config); });
     sea->setTime(2 * pi);
     // Under the crest, above it, at the stretching depth of one wave length, over the trough.
-    values at = {0, 0, 0, pi * g, 0, 0, 0, 0, 6.999999, 7.1, 5 - 2 * pi * g, 4};
+    values at = {0, 0, 0, pi * gravity, 0, 0, 0, 0, 6.999999, 7.1, 5 - 2 * pi * gravity, 4};
     values u(12, 1), a(12, 1), density(4), depth(4);
     sea->evaluate(4, at.data(), u.data(), a.data(), density.data(), depth.data());
     EXPECT_EQ(density, (values{1000, 1, 1000, 1}));
@@ -68,7 +68,8 @@ TEST(waveModel, stretchesTheMotionToTheSurface) {
     sea->pressure(4, at.data(), u.data());
     EXPECT_EQ(u[1], 0);
     u.resize(4);
-    EXPECT_THAT(u, testing::Pointwise(testing::DoubleNear(0.02), values{0, 0, 1000 * g * 900, 0}));
+    EXPECT_THAT(
+        u, testing::Pointwise(testing::DoubleNear(0.02), values{0, 0, 1000 * gravity * 900, 0}));
     double eta = std::nan("");
     sea->eta(1, at.data(), at.data(), &eta);
     EXPECT_TRUE(std::isnan(eta)) << "what the caller had there stays";
@@ -134,7 +135,7 @@ TEST(Jonswap, followsTheSpectrum) {
     // At the peak r = 1, and where |omega / omegaP - 1| = sigma, r = exp(-1/2).
     const double peak = 0.2 * pi;
     for (const double ratio : {1.0, 0.95, 1.09}) {
-        const double form = 2 * pi * 0.01 * g * g * std::pow(ratio * peak, -5) *
+        const double form = 2 * pi * 0.01 * gravity * gravity * std::pow(ratio * peak, -5) *
                             std::exp(-1.25 / std::pow(ratio, 4)) *
                             std::pow(3.3, ratio == 1 ? 1 : std::exp(-0.5));
         EXPECT_NEAR(sea->setS(ratio * peak), form, 1e-10) << ratio;

@@ -130,7 +130,7 @@ A missing key gives `default`, or is a KeyError without one. Other text is a Val
 tasks read it as 0, and of a word such as 8s the number that it begins with.
 )";
 
-constexpr const char* checkText =
+constexpr const char* caseCheckText =
     R"(What `sorvikCheck input` finds in the file, which is read again, as a dictionary.
 
 `task`, "both", "nemoh" or "wave", is the one whose keys are required; `output` the folder and
@@ -160,7 +160,7 @@ void addCase(py::module_& module) {
         .def("numbers", numbersOf, "key"_a,
              "The numbers of the value of `key`, a list. Text among them is a ValueError.")
         .def("to_json", jsonOf, "The text that `sorvikPre -toJSON` writes.")
-        .def("check", checkOf, checkText, "task"_a = "both", "output"_a = py::none(),
+        .def("check", checkOf, caseCheckText, "task"_a = "both", "output"_a = py::none(),
              "probes"_a = 1.0);
 }
 

@@ -119,7 +119,7 @@ request::request(const numbers& t, const py::tuple& coordinates) : instants(list
 timeInstants instantsOf(std::vector<double>&& list) {
     const std::size_t count = list.size();
     if (count > 2) {
-        const timeInstants even(list[0], list[1] - list[0], static_cast<std::int64_t>(count));
+        timeInstants even(list[0], list[1] - list[0], static_cast<std::int64_t>(count));
         std::size_t i = 0;
         while (i < count && even[static_cast<std::int64_t>(i)] == list[i]) {
             ++i;

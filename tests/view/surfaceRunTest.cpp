@@ -39,8 +39,6 @@ std::string table(int instants, int nodes) {
     return text;
 }
 
-} // namespace
-
 TEST_F(surfaceRunTest, keepsEverySoManyInstantsAndNodes) {
     surfaceLimits limits;
     limits.frames = 2;
@@ -146,3 +144,5 @@ TEST(evenStep, allowsForSixDigitsOnly) {
     times[20] += 0.1;
     EXPECT_EQ(evenStep(times), 0);
 }
+
+} // namespace

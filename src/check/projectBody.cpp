@@ -256,7 +256,7 @@ void checkProjectBody(const std::string& folder, const nemohCal& cal, std::size_
     checked.addFact("forces", "Forces", count(body.forces.size()));
     checked.addFact("centreOfRotation", "Centre of rotation",
                     std::vector<double>(centre.begin(), centre.end()), "m");
-    if (body.mesh.empty()) {
+    if (!cal.failure.empty() && body.mesh.empty() && body.meshText.empty()) {
         return; // Nemoh.cal ends before it
     }
     const std::string found = findBodyMesh(folder, body);

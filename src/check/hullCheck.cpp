@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
+#include <utility>
 
 namespace sorvik {
 namespace {
@@ -29,11 +30,7 @@ void requireFinite(const point3& values, const std::string& option) {
     }
 }
 
-void requireUsable(const std::string& file, const hullOptions& options) {
-    if (!std::filesystem::is_regular_file(platform::pathOf(file)) || !files::canOpen(file)) {
-        throw cannotCheck("Cannot read the mesh " + file +
-                          ". Check the name; it is a file that you may read.");
-    }
+void requireUsable(const hullOptions& options) {
     requireFinite(options.origin, "--origin");
     requireFinite(options.cog, "--cog");
     requireFinite({options.level, options.depth, 0}, "--level or --depth");
@@ -73,21 +70,9 @@ void addSizeFacts(const panelSizes& sizes, const hullOptions& options, report& r
     }
 }
 
-/// Reads the mesh as `sorvikPre` does. Returns why there are no panels, or "".
-std::string readHull(const std::string& file, const hullOptions& options, bodyMesh& mesh) {
-    if (file.size() < 4) {
-        return "The name " + file + " has no ending of a mesh.";
-    }
-    const quietOutcome outcome = quietly([&] {
-        mesh = bodyMesh(file, listOf(options.origin), {0, 0, 0}, options.level);
-    });
-    return outcome.hasEnded     ? outcome.message()
-           : mesh.faces.empty() ? "The file gives no panels."
-                                : "";
-}
-
-} // namespace
-
+/// Takes out the panel that the reader makes of the line that ends a Nemoh mesh, and its image, and
+/// cuts the mesh again; leaves meshes of other formats. `mesh` is as it was read. All corners of
+/// these panels lie at the mesh's zero.
 void removeNemohEnd(const meshFileFacts& file, const hullOptions& options, bodyMesh& mesh) {
     if (file.format != "Nemoh" || mesh.faces.empty()) {
         return;
@@ -111,6 +96,32 @@ void removeNemohEnd(const meshFileFacts& file, const hullOptions& options, bodyM
     }
     mesh.nFaces = static_cast<int>(faces.size());
     quietly([&] { mesh.updateWetSurface(options.level); });
+}
+
+} // namespace
+
+void requireMeshFile(const std::string& file) {
+    if (!std::filesystem::is_regular_file(platform::pathOf(file)) || !files::canOpen(file)) {
+        throw cannotCheck("Cannot read the mesh " + file +
+                          ". Check the name; it is a file that you may read.");
+    }
+}
+
+hullFile readHull(const std::string& file, const hullOptions& options) {
+    hullFile read;
+    if (file.size() < 4) {
+        read.failure = "The name " + file + " has no ending of a mesh.";
+    } else {
+        const quietOutcome outcome = quietly([&] {
+            read.mesh = bodyMesh(file, listOf(options.origin), {0, 0, 0}, options.level);
+        });
+        read.failure = outcome.hasEnded ? outcome.message() : "";
+        read.text = outcome.text;
+    }
+    const auto panels = static_cast<long long>(read.mesh.faces.size());
+    read.facts = inspectMeshFile(file, panels, read.result);
+    removeNemohEnd(read.facts, options, read.mesh);
+    return read;
 }
 
 void addHydrostaticFacts(const hydrostatics& h, report& result) {
@@ -155,22 +166,23 @@ void examineHull(const meshFileFacts& file, const hullOptions& options, hullRepo
 }
 
 hullReport checkHull(const std::string& file, const hullOptions& options) {
-    requireUsable(file, options);
+    requireMeshFile(file);
+    requireUsable(options);
+    hullFile read = readHull(file, options);
     hullReport checked;
-    report& result = checked.result;
-    const std::string failure = readHull(file, options, checked.mesh);
-    checked.hasPanels = failure.empty();
-    const meshFileFacts facts =
-        inspectMeshFile(file, static_cast<long long>(checked.mesh.faces.size()), result);
-    if (!checked.hasPanels) {
-        result.addFact("format", "Format", facts.format);
-        if (result.findings.empty()) {
-            result.add("unread-file", failure);
-        }
+    checked.result = std::move(read.result);
+    checked.mesh = std::move(read.mesh);
+    checked.hasPanels = !checked.mesh.faces.empty();
+    if (checked.hasPanels) {
+        examineHull(read.facts, options, checked);
         return checked;
     }
-    removeNemohEnd(facts, options, checked.mesh);
-    examineHull(facts, options, checked);
+    report& result = checked.result;
+    result.addFact("format", "Format", read.facts.format);
+    if (result.findings.empty()) {
+        result.add("unread-file",
+                   read.failure.empty() ? "The file gives no panels." : read.failure);
+    }
     return checked;
 }
 

@@ -224,6 +224,7 @@ TEST_F(hullCheck, findsWhatTheReadersLeaveOut) {
         {"corner.dat", nodes + "0 0 0 0\n1 2 4 1\n0 0 0 0\n", "unread-records", "nodes that"},
         {"solid.dat", solid, "wrong-ending", "the content is STL, ASCII"},
         {"empty.stl", "", "unread-file", "gives no panels"},
+        {"empty.dat", nodes + "0 0 0 0\n0 0 0 0\n", "unread-file", "gives no panels"},
         {"mesh.obj", "v 0 0 0\n", "unread-file", "SUPPLY A .gdf"},
     };
     for (const fileCase& each : cases) {

@@ -49,18 +49,15 @@ constexpr std::size_t panelMemory = sizeof(triangle) + 9 * sizeof(double) + 16 +
 triangle loadFacet(const char* record) {
     float values[floatsPerFacet];
     for (std::size_t i = 0; i < floatsPerFacet; ++i) {
-        const std::uint32_t word = littleEndian::load<std::uint32_t>(record + i * sizeof(float));
-        std::memcpy(values + i, &word, sizeof word);
+        values[i] = littleEndian::load<float>(record + i * sizeof(float));
     }
     return triangle(values);
 }
 
 char* storeVector(char* bytes, const v3<float>& v) {
     for (const float value : {v.x, v.y, v.z}) {
-        std::uint32_t word = 0;
-        std::memcpy(&word, &value, sizeof word);
-        littleEndian::store(bytes, word);
-        bytes += sizeof word;
+        littleEndian::store(bytes, value);
+        bytes += sizeof value;
     }
     return bytes;
 }

@@ -7,6 +7,12 @@ namespace sorvik {
 /// `value` as a stream writes it by default, in the classic locale.
 std::string numberText(double value);
 
+/// `value` in at most `digits` significant digits, 1 to 17, in the classic locale.
+std::string numberText(double value, int digits);
+
+/// The shortest text that is read as `value` again, in the classic locale.
+std::string exactText(double value);
+
 /// The number that `text` begins with, 0 where there is none, read as std::strtod reads it in the
 /// classic locale: what follows the number is ignored, white space before it too.
 double leadingNumber(const char* text);

@@ -33,7 +33,8 @@ void requireFinite(const point3& values, const std::string& option) {
 void requireUsable(const hullOptions& options) {
     requireFinite(options.origin, "--origin");
     requireFinite(options.cog, "--cog");
-    requireFinite({options.level, options.depth, 0}, "--level or --depth");
+    requireFinite({options.level, 0, 0}, "--level");
+    requireFinite({options.depth, 0, 0}, "--depth");
     requirePositive(options.density, "--density");
     requirePositive(options.gravity, "--gravity");
     requirePositive(options.mass.value_or(1), "--mass");

@@ -259,7 +259,8 @@ constexpr const char* meshText =
 Mesh(path, origin=(0, 0, 0), level=0) moves the mesh so that its point `origin` [m] becomes
 (0, 0, 0) and cuts it at the height `level` [m]. Lengths are in m, z points up. A file that cannot
 be read, or that gives no panels, is a sorvik.Error; `check` shows what a file lacks otherwise. The
-line that ends the panels of a Nemoh mesh, which sorvikPre reads as one more panel, is left out.
+line that ends the panels of a Nemoh mesh, which sorvikPre reads as one more panel, is left out, and
+so are the facets that sorvikPre adds to a binary STL file that is cut off.
 
 Methods hold the interpreter's lock: the console that they silence belongs to the process.
 

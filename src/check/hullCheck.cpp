@@ -6,10 +6,12 @@
 #include "check/hullFindings.hpp"
 #include "check/hullSurface.hpp"
 #include "check/quietly.hpp"
+#include "mesh/stlFormat.hpp"
 
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
+#include <sstream>
 #include <utility>
 
 namespace sorvik {
@@ -71,6 +73,28 @@ void addSizeFacts(const panelSizes& sizes, const hullOptions& options, report& r
     }
 }
 
+v3<float> singleOf(const point3& p) {
+    return {static_cast<float>(p[0]), static_cast<float>(p[1]), static_cast<float>(p[2])};
+}
+
+/// Reads, moves and cuts a mesh as the constructor does, but never more facets than a file holds.
+bodyMesh readMesh(const std::string& file, const hullOptions& options) {
+    const std::optional<std::string> held = shortenedStl(file);
+    if (!held) {
+        return bodyMesh(file, listOf(options.origin), {0, 0, 0}, options.level);
+    }
+    bodyMesh mesh;
+    mesh.meshFile = file;
+    std::istringstream in(*held);
+    stl::readBinary(in, file, {mesh.faces, mesh.nFaces});
+    for (triangle& panel : mesh.faces) {
+        panel.shift(singleOf(options.origin));
+    }
+    mesh.totalArea = mesh.surfaceArea();
+    mesh.updateWetSurface(options.level);
+    return mesh;
+}
+
 /// Takes out the panel that the reader makes of the line that ends a Nemoh mesh, and its image, and
 /// cuts the mesh again; leaves meshes of other formats. `mesh` is as it was read. All corners of
 /// these panels lie at the mesh's zero.
@@ -78,9 +102,7 @@ void removeNemohEnd(const meshFileFacts& file, const hullOptions& options, bodyM
     if (file.format != "Nemoh" || mesh.faces.empty()) {
         return;
     }
-    const v3<float> zero = {-static_cast<float>(options.origin[0]),
-                            -static_cast<float>(options.origin[1]),
-                            -static_cast<float>(options.origin[2])};
+    const v3<float> zero = -1.0F * singleOf(options.origin);
     const auto isZero = [&](const v3<float>& p) {
         return p.x == zero.x && p.y == zero.y && p.z == zero.z;
     };
@@ -113,9 +135,7 @@ hullFile readHull(const std::string& file, const hullOptions& options) {
     if (file.size() < 4) {
         read.failure = "The name " + file + " has no ending of a mesh.";
     } else {
-        const quietOutcome outcome = quietly([&] {
-            read.mesh = bodyMesh(file, listOf(options.origin), {0, 0, 0}, options.level);
-        });
+        const quietOutcome outcome = quietly([&] { read.mesh = readMesh(file, options); });
         read.failure = outcome.hasEnded ? outcome.message() : "";
         read.text = outcome.text;
     }

@@ -20,8 +20,8 @@ struct hullFile {
 void requireMeshFile(const std::string& file);
 
 /// Reads a mesh file that can be opened as `sorvikPre` does, moves it by minus the origin and cuts
-/// it at the level. The panel that the reader makes of the line that ends a Nemoh mesh, and its
-/// image, are left out.
+/// it at the level. Left out are the panel that the reader makes of the line that ends a Nemoh
+/// mesh, with its image, and the facets that it adds to a binary STL file that is cut off.
 hullFile readHull(const std::string& file, const hullOptions& options);
 
 /// Adds the facts on hydrostatics.

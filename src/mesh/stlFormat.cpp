@@ -282,12 +282,16 @@ bool readAscii(std::istream& in, const std::string& name, panelStore panels) {
     return text.good();
 }
 
+bool canHold(std::uint32_t count) {
+    return count <= std::uint32_t(std::numeric_limits<int>::max()) &&
+           memory::canHold(count, panelMemory);
+}
+
 bool readBinary(std::istream& in, const std::string& name, panelStore panels) {
     char head[headerSize + countSize] = {};
     in.read(head, sizeof head);
     const auto count = littleEndian::load<std::uint32_t>(head + headerSize);
-    if (count > std::uint32_t(std::numeric_limits<int>::max()) ||
-        !memory::canHold(count, panelMemory)) {
+    if (!canHold(count)) {
         printer::fatalError(name + " announces " + std::to_string(count) +
                             " facets, more than memory can hold.");
     }

@@ -1,5 +1,7 @@
 #include "check/hullCheck.hpp"
 #include "base/files.hpp"
+#include "base/littleEndian.hpp"
+#include "check/hullSurface.hpp"
 #include "check/quietly.hpp"
 #include "mesh/stlFormat.hpp"
 #include "nemoh/nemohIO.hpp"
@@ -274,6 +276,22 @@ TEST_F(hullCheck, comparesWithOptions) {
     EXPECT_EQ(check(box()).result.find("long-edges"), nullptr);
     options_.density = 0;
     EXPECT_THROW(check(box()), cannotCheck);
+}
+
+TEST_F(hullCheck, takesTheFacetsThatACutOffStlFileHolds) {
+    const std::string barge = readFile(SORVIK_TEST_DATA "/../../examples/1-hull/spar.stl");
+    options_.origin = {1, 2, 3};
+    const hullReport whole = checkText("whole.stl", barge);
+    std::string cut = barge.substr(0, 84 + 50 * 300 + 49);
+    littleEndian::store(cut.data() + 80, std::uint32_t{4'000'000});
+    const hullReport checked = checkText("cut.stl", cut);
+    EXPECT_THAT(
+        checked.result.findings.at(0).message,
+        testing::HasSubstr("announces 4000000 facets, and its length of 15133 bytes holds 300"));
+    EXPECT_EQ(checked.result.find("coincident-panels"), nullptr);
+    ASSERT_EQ(checked.mesh.faces.size(), 300U);
+    EXPECT_EQ(cornersOf(checked.mesh.faces[299]), cornersOf(whole.mesh.faces[299]));
+    EXPECT_FALSE(checkText("head.stl", cut.substr(0, 84)).hasPanels);
 }
 
 TEST_F(hullCheck, leavesOutTheLineThatEndsANemohMesh) {

@@ -24,6 +24,11 @@ void tryText(const std::string& text) {
     bodyMesh mesh;
     const bool hasEnded = quietly([&] { mesh = bodyMesh(file, {0, 0, 0}, {0, 0, 0}, 0); }).hasEnded;
     const hullReport checked = checkHull(file, {});
-    check(checked.hasPanels == (!hasEnded && !mesh.faces.empty()));
+    // The check leaves out what the readers add to a mesh: the line that ends a Nemoh mesh, with
+    // its image, and the facets that an STL file lacks.
+    const std::size_t read = hasEnded ? 0 : mesh.faces.size();
+    const std::size_t kept = checked.mesh.faces.size();
+    check(kept <= read && (read - kept <= 2 || ending == 0));
+    check(checked.hasPanels == (kept > 0));
     check(checked.hasPanels || checked.result.count(severity::error) > 0);
 }

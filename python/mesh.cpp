@@ -1,5 +1,4 @@
 #include "arrays.hpp"
-#include "base/files.hpp"
 #include "base/rewrite.hpp"
 #include "check/hullExamination.hpp"
 #include "guard.hpp"
@@ -13,6 +12,7 @@
 #include <cmath>
 #include <cstddef>
 #include <filesystem>
+#include <utility>
 
 namespace sorvik::python {
 namespace {
@@ -52,19 +52,18 @@ hullMesh::hullMesh(const std::filesystem::path& path, const point3& origin, doub
     requireFinite(origin, "origin");
     requireFinite(level, "level");
     const std::string file = path.string();
-    if (!std::filesystem::is_regular_file(path) || !files::canOpen(file)) {
-        throw libraryError("Cannot read the mesh " + file +
-                           ". Check the name; it is a file that you may read.");
-    }
-    if (file.size() < 4) {
-        throw libraryError("The name " + file + " has no ending of a mesh.");
-    }
-    run([&] { body_ = bodyMesh(file, {origin.begin(), origin.end()}, {0, 0, 0}, level); });
-    file_ = inspectMeshFile(file, static_cast<long long>(body_.faces.size()), fileReport_);
+    requireMeshFile(file);
     hullOptions options;
     options.origin = origin;
     options.level = level;
-    removeNemohEnd(file_, options, body_);
+    hullFile read = readHull(file, options);
+    showIfVerbose(read.text);
+    if (!read.failure.empty()) {
+        throw libraryError(read.failure);
+    }
+    body_ = std::move(read.mesh);
+    file_ = std::move(read.facts);
+    fileReport_ = std::move(read.result);
     if (body_.faces.empty()) {
         throw libraryError("The file " + file + " gives no panels.");
     }
@@ -260,7 +259,8 @@ constexpr const char* meshText =
 Mesh(path, origin=(0, 0, 0), level=0) moves the mesh so that its point `origin` [m] becomes
 (0, 0, 0) and cuts it at the height `level` [m]. Lengths are in m, z points up. A file that cannot
 be read, or that gives no panels, is a sorvik.Error; `check` shows what a file lacks otherwise. The
-line that ends the panels of a Nemoh mesh, which sorvikPre reads as one more panel, is left out.
+line that ends the panels of a Nemoh mesh, which sorvikPre reads as one more panel, is left out, and
+so are the facets that sorvikPre adds to a binary STL file that is cut off.
 
 Methods hold the interpreter's lock: the console that they silence belongs to the process.
 

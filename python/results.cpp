@@ -1,7 +1,7 @@
 #include "arrays.hpp"
 #include "base/files.hpp"
 #include "check/nemohCal.hpp"
-#include "check/resultsCheck.hpp"
+#include "check/openedProject.hpp"
 #include "guard.hpp"
 #include "nemoh/nemohIO.hpp"
 #include "reports.hpp"
@@ -30,7 +30,7 @@ struct nemohFolder {
 
 nemohFolder::nemohFolder(const std::filesystem::path& path)
     : folder(path.string()), cal(openNemohCal(folder)) {
-    resultsReport checked = checkResults(folder);
+    resultsReport checked = checkResults(folder, cal);
     result = std::move(checked.result);
     values = std::move(checked.values);
     if (const finding* unread = result.find("unread-project"); unread != nullptr) {

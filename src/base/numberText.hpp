@@ -7,6 +7,12 @@ namespace sorvik {
 /// `value` as a stream writes it by default, in the classic locale.
 std::string numberText(double value);
 
+/// `value` in at most `digits` significant digits, 1 to 17, in the classic locale.
+std::string numberText(double value, int digits);
+
+/// The shortest text that is read as `value` again, in the classic locale.
+std::string exactText(double value);
+
 /// 100 times `share`, rounded to `decimals` digits after the point, such as "12.5 %".
 std::string percentText(double share, int decimals);
 

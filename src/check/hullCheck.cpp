@@ -6,10 +6,13 @@
 #include "check/hullFindings.hpp"
 #include "check/hullSurface.hpp"
 #include "check/quietly.hpp"
+#include "mesh/stlFormat.hpp"
 
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
+#include <sstream>
+#include <utility>
 
 namespace sorvik {
 namespace {
@@ -29,14 +32,11 @@ void requireFinite(const point3& values, const std::string& option) {
     }
 }
 
-void requireUsable(const std::string& file, const hullOptions& options) {
-    if (!std::filesystem::is_regular_file(platform::pathOf(file)) || !files::canOpen(file)) {
-        throw cannotCheck("Cannot read the mesh " + file +
-                          ". Check the name; it is a file that you may read.");
-    }
+void requireUsable(const hullOptions& options) {
     requireFinite(options.origin, "--origin");
     requireFinite(options.cog, "--cog");
-    requireFinite({options.level, options.depth, 0}, "--level or --depth");
+    requireFinite({options.level, 0, 0}, "--level");
+    requireFinite({options.depth, 0, 0}, "--depth");
     requirePositive(options.density, "--density");
     requirePositive(options.gravity, "--gravity");
     requirePositive(options.mass.value_or(1), "--mass");
@@ -73,28 +73,36 @@ void addSizeFacts(const panelSizes& sizes, const hullOptions& options, report& r
     }
 }
 
-/// Reads the mesh as `sorvikPre` does. Returns why there are no panels, or "".
-std::string readHull(const std::string& file, const hullOptions& options, bodyMesh& mesh) {
-    if (file.size() < 4) {
-        return "The name " + file + " has no ending of a mesh.";
-    }
-    const quietOutcome outcome = quietly([&] {
-        mesh = bodyMesh(file, listOf(options.origin), {0, 0, 0}, options.level);
-    });
-    return outcome.hasEnded     ? outcome.message()
-           : mesh.faces.empty() ? "The file gives no panels."
-                                : "";
+v3<float> singleOf(const point3& p) {
+    return {static_cast<float>(p[0]), static_cast<float>(p[1]), static_cast<float>(p[2])};
 }
 
-} // namespace
+/// Reads, moves and cuts a mesh as the constructor does, but never more facets than a file holds.
+bodyMesh readMesh(const std::string& file, const hullOptions& options) {
+    const std::optional<std::string> held = shortenedStl(file);
+    if (!held) {
+        return bodyMesh(file, listOf(options.origin), {0, 0, 0}, options.level);
+    }
+    bodyMesh mesh;
+    mesh.meshFile = file;
+    std::istringstream in(*held);
+    stl::readBinary(in, file, {mesh.faces, mesh.nFaces});
+    for (triangle& panel : mesh.faces) {
+        panel.shift(singleOf(options.origin));
+    }
+    mesh.totalArea = mesh.surfaceArea();
+    mesh.updateWetSurface(options.level);
+    return mesh;
+}
 
+/// Takes out the panel that the reader makes of the line that ends a Nemoh mesh, and its image, and
+/// cuts the mesh again; leaves meshes of other formats. `mesh` is as it was read. All corners of
+/// these panels lie at the mesh's zero.
 void removeNemohEnd(const meshFileFacts& file, const hullOptions& options, bodyMesh& mesh) {
     if (file.format != "Nemoh" || mesh.faces.empty()) {
         return;
     }
-    const v3<float> zero = {-static_cast<float>(options.origin[0]),
-                            -static_cast<float>(options.origin[1]),
-                            -static_cast<float>(options.origin[2])};
+    const v3<float> zero = -1.0F * singleOf(options.origin);
     const auto isZero = [&](const v3<float>& p) {
         return p.x == zero.x && p.y == zero.y && p.z == zero.z;
     };
@@ -111,6 +119,30 @@ void removeNemohEnd(const meshFileFacts& file, const hullOptions& options, bodyM
     }
     mesh.nFaces = static_cast<int>(faces.size());
     quietly([&] { mesh.updateWetSurface(options.level); });
+}
+
+} // namespace
+
+void requireMeshFile(const std::string& file) {
+    if (!std::filesystem::is_regular_file(platform::pathOf(file)) || !files::canOpen(file)) {
+        throw cannotCheck("Cannot read the mesh " + file +
+                          ". Check the name; it is a file that you may read.");
+    }
+}
+
+hullFile readHull(const std::string& file, const hullOptions& options) {
+    hullFile read;
+    if (file.size() < 4) {
+        read.failure = "The name " + file + " has no ending of a mesh.";
+    } else {
+        const quietOutcome outcome = quietly([&] { read.mesh = readMesh(file, options); });
+        read.failure = outcome.hasEnded ? outcome.message() : "";
+        read.text = outcome.text;
+    }
+    const auto panels = static_cast<long long>(read.mesh.faces.size());
+    read.facts = inspectMeshFile(file, panels, read.result);
+    removeNemohEnd(read.facts, options, read.mesh);
+    return read;
 }
 
 void addHydrostaticFacts(const hydrostatics& h, report& result) {
@@ -155,22 +187,23 @@ void examineHull(const meshFileFacts& file, const hullOptions& options, hullRepo
 }
 
 hullReport checkHull(const std::string& file, const hullOptions& options) {
-    requireUsable(file, options);
+    requireMeshFile(file);
+    requireUsable(options);
+    hullFile read = readHull(file, options);
     hullReport checked;
-    report& result = checked.result;
-    const std::string failure = readHull(file, options, checked.mesh);
-    checked.hasPanels = failure.empty();
-    const meshFileFacts facts =
-        inspectMeshFile(file, static_cast<long long>(checked.mesh.faces.size()), result);
-    if (!checked.hasPanels) {
-        result.addFact("format", "Format", facts.format);
-        if (result.findings.empty()) {
-            result.add("unread-file", failure);
-        }
+    checked.result = std::move(read.result);
+    checked.mesh = std::move(read.mesh);
+    checked.hasPanels = !checked.mesh.faces.empty();
+    if (checked.hasPanels) {
+        examineHull(read.facts, options, checked);
         return checked;
     }
-    removeNemohEnd(facts, options, checked.mesh);
-    examineHull(facts, options, checked);
+    report& result = checked.result;
+    result.addFact("format", "Format", read.facts.format);
+    if (result.findings.empty()) {
+        result.add("unread-file",
+                   read.failure.empty() ? "The file gives no panels." : read.failure);
+    }
     return checked;
 }
 

@@ -5,12 +5,24 @@
 
 namespace sorvik {
 
-// The steps of `checkHull` after reading, for a mesh that is already in memory.
+// The steps of `checkHull`, for callers that keep the mesh in memory.
 
-/// Takes out the panel that the reader makes of the line that ends a Nemoh mesh, and its image, and
-/// cuts the mesh again; leaves meshes of other formats. `mesh` is as it was read. All corners of
-/// these panels lie at the mesh's zero.
-void removeNemohEnd(const meshFileFacts& file, const hullOptions& options, bodyMesh& mesh);
+/// What was read of a mesh file.
+struct hullFile {
+    meshFileFacts facts;
+    report result;       ///< what its reader leaves out
+    bodyMesh mesh;       ///< moved and cut; it may have no panels
+    std::string failure; ///< the fatal error that ended the reader, or ""
+    std::string text;    ///< that the reader printed
+};
+
+/// Throws `cannotCheck` where there is no file of this name that can be opened.
+void requireMeshFile(const std::string& file);
+
+/// Reads a mesh file that can be opened as `sorvikPre` does, moves it by minus the origin and cuts
+/// it at the level. Left out are the panel that the reader makes of the line that ends a Nemoh
+/// mesh, with its image, and the facets that it adds to a binary STL file that is cut off.
+hullFile readHull(const std::string& file, const hullOptions& options);
 
 /// Adds the facts on hydrostatics.
 void addHydrostaticFacts(const hydrostatics& h, report& result);

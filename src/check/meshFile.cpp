@@ -16,6 +16,7 @@ namespace sorvik {
 namespace {
 
 constexpr std::size_t stlHead = 84;
+constexpr std::size_t stlCount = 80; // where the number of facets begins
 constexpr std::size_t stlFacet = 50;
 
 /// The beginning of the file: more than a header of any format needs.
@@ -55,8 +56,22 @@ bool looksLikeNemoh(const std::string& head) {
            (symmetry == 0 || symmetry == 1);
 }
 
-long long facetsAnnounced(const std::string& head) {
-    return head.size() < stlHead ? 0 : littleEndian::load<std::uint32_t>(head.data() + 80);
+std::uint32_t facetsAnnounced(const std::string& head) {
+    return head.size() < stlHead ? 0 : littleEndian::load<std::uint32_t>(head.data() + stlCount);
+}
+
+/// The whole facets that a binary STL file of `size` bytes has room for.
+std::uintmax_t facetsHeld(std::uintmax_t size) {
+    return size < stlHead ? 0 : (size - stlHead) / stlFacet;
+}
+
+std::uintmax_t bytesIn(const std::string& file) {
+    std::error_code ignored;
+    return std::filesystem::file_size(platform::pathOf(file), ignored);
+}
+
+std::string endingOf(const std::string& file) {
+    return file.size() < 4 ? file : file.substr(file.size() - 4);
 }
 
 std::string formatOf(const std::string& head, std::uintmax_t size) {
@@ -65,7 +80,7 @@ std::string formatOf(const std::string& head, std::uintmax_t size) {
         return "STL, ASCII";
     }
     if (head.size() >= stlHead &&
-        size == stlHead + stlFacet * static_cast<std::uintmax_t>(facetsAnnounced(head))) {
+        size == stlHead + stlFacet * std::uintmax_t{facetsAnnounced(head)}) {
         return "STL, binary";
     }
     return looksLikeNemoh(head) ? "Nemoh" : looksLikeGdf(head) ? "GDF" : "unknown";
@@ -84,7 +99,7 @@ std::string formatOfEnding(std::string ending) {
 void inspectBinaryStl(const std::string& head, std::uintmax_t size, meshFileFacts& facts,
                       report& result) {
     facts.announced = facetsAnnounced(head);
-    const auto held = static_cast<long long>(size < stlHead ? 0 : (size - stlHead) / stlFacet);
+    const auto held = static_cast<long long>(facetsHeld(size));
     facts.read = std::min(facts.announced, held);
     if (facts.announced != held) {
         addCutOff("The binary STL file announces " + std::to_string(facts.announced) +
@@ -97,11 +112,10 @@ void inspectBinaryStl(const std::string& head, std::uintmax_t size, meshFileFact
 } // namespace
 
 meshFileFacts inspectMeshFile(const std::string& file, long long panels, report& result) {
-    std::error_code ignored;
-    const std::uintmax_t size = std::filesystem::file_size(platform::pathOf(file), ignored);
+    const std::uintmax_t size = bytesIn(file);
     const std::string head = headOf(file);
     meshFileFacts facts;
-    facts.ending = file.size() < 4 ? file : file.substr(file.size() - 4);
+    facts.ending = endingOf(file);
     facts.format = formatOf(head, size);
     const std::string expected = formatOfEnding(facts.ending);
     if (!expected.empty() && facts.format != "unknown" && !startsWith(facts.format, expected)) {
@@ -120,6 +134,21 @@ meshFileFacts inspectMeshFile(const std::string& file, long long panels, report&
         scanNemohMesh(in, facts, result);
     }
     return facts;
+}
+
+std::optional<std::string> shortenedStl(const std::string& file) {
+    const std::string ending = endingOf(file);
+    const std::uint32_t announced = facetsAnnounced(headOf(file));
+    const std::uintmax_t held = facetsHeld(bytesIn(file));
+    std::ifstream in = files::open(file);
+    const bool isStl = ending == ".stl" || ending == ".STL";
+    if (!isStl || held >= announced || !stl::canHold(announced) || !stl::isBinary(in)) {
+        return std::nullopt;
+    }
+    std::string content(stlHead + stlFacet * static_cast<std::size_t>(held), '\0');
+    in.read(content.data(), static_cast<std::streamsize>(content.size()));
+    littleEndian::store(content.data() + stlCount, static_cast<std::uint32_t>(held));
+    return content;
 }
 
 } // namespace sorvik

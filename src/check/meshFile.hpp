@@ -3,6 +3,7 @@
 #include "check/finding.hpp"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace sorvik {
@@ -21,5 +22,10 @@ struct meshFileFacts {
 /// records, and `unread-records` and `wrong-ending`, which it adds to `result`. `panels` is the
 /// number of panels that the reader makes of it. The file can be opened.
 meshFileFacts inspectMeshFile(const std::string& file, long long panels, report& result);
+
+/// The content of a binary STL file that announces more facets than it holds, with the number of
+/// those that it holds in place of the other; nothing for other files, and for a number that its
+/// reader refuses.
+std::optional<std::string> shortenedStl(const std::string& file);
 
 } // namespace sorvik

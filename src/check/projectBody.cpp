@@ -202,18 +202,25 @@ void checkIrregular(const hullReport& hull, const hullOptions& options, bool has
     }
 }
 
-void checkMesh(const std::string& file, const std::string& name, checkedBody& checked) {
+void checkMesh(const std::string& file, const std::string& name, checkedBody& checked,
+               const hullTaker& take) {
     report& result = checked.result;
     checkCounts(file, checked.body, result);
     checkHeights(file, name, result);
     const hullOptions options = optionsFor(checked.cal, checked.body);
-    hullReport hull = checkBodyHull(file, checked.cal, checked.body);
+    hullReport hull = checkHull(file, options);
+    nameKeys(hull.result);
     const bool hasLid = hull.result.find("lid") != nullptr;
-    takeFacts(hull.result, checked);
-    takeFindings(hull.result, name, result);
+    if (!take) {
+        takeFacts(hull.result, checked);
+        takeFindings(hull.result, name, result);
+    }
     if (hull.hasPanels) {
         checkDepth(hull, checked, name);
         checkIrregular(hull, options, hasLid, checked);
+    }
+    if (take) {
+        take(name, std::move(hull));
     }
 }
 
@@ -227,14 +234,8 @@ std::string findBodyMesh(const std::string& folder, const calBody& body) {
     return isThere(body.mesh) ? body.mesh : isThere(body.meshText) ? body.meshText : "";
 }
 
-hullReport checkBodyHull(const std::string& file, const nemohCal& cal, const calBody& body) {
-    hullReport hull = checkHull(file, optionsFor(cal, body));
-    nameKeys(hull.result);
-    return hull;
-}
-
 void checkProjectBody(const std::string& folder, const nemohCal& cal, std::size_t index,
-                      report& result) {
+                      report& result, const hullTaker& take) {
     constexpr std::size_t bodiesShown = 3; // in a report of one screen
     const calBody& body = cal.bodies[index];
     const std::string number = std::to_string(index + 1);
@@ -255,13 +256,13 @@ void checkProjectBody(const std::string& folder, const nemohCal& cal, std::size_
     checked.addFact("forces", "Forces", count(body.forces.size()));
     checked.addFact("centreOfRotation", "Centre of rotation",
                     std::vector<double>(centre.begin(), centre.end()), "m");
-    if (body.mesh.empty()) {
+    if (!cal.failure.empty() && body.mesh.empty() && body.meshText.empty()) {
         return; // Nemoh.cal ends before it
     }
     const std::string found = findBodyMesh(folder, body);
     checkName(found, body, result);
     if (!found.empty()) {
-        checkMesh(folder + "/" + found, found, checked);
+        checkMesh(folder + "/" + found, found, checked, take);
     }
 }
 

@@ -3,8 +3,7 @@
 #include "base/files.hpp"
 #include "base/numberText.hpp"
 #include "base/platform.hpp"
-#include "check/nemohCal.hpp"
-#include "check/projectBody.hpp"
+#include "check/openedProject.hpp"
 #include "nemoh/nemohIO.hpp"
 
 #include <filesystem>
@@ -106,14 +105,17 @@ void checkParts(const std::string& folder, report& result) {
 } // namespace
 
 report checkProject(const std::string& folder) {
-    const nemohCal cal = openNemohCal(folder);
+    return checkProject(folder, openNemohCal(folder));
+}
+
+report checkProject(const std::string& folder, const nemohCal& cal, const hullTaker& take) {
     report result;
     addCaseFacts(cal, result);
     addCostFacts(cal, result);
     addCalFailure(cal, result);
     checkRanges(cal, result);
     for (std::size_t i = 0; i < cal.bodies.size(); ++i) {
-        checkProjectBody(folder, cal, i, result);
+        checkProjectBody(folder, cal, i, result, take);
     }
     checkParts(folder, result);
     checkHydrostaticFiles(folder, cal, result);

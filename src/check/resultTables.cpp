@@ -1,8 +1,8 @@
 #include "check/resultTables.hpp"
 
 #include "base/files.hpp"
+#include "base/numberText.hpp"
 
-#include <charconv>
 #include <ostream>
 #include <string_view>
 
@@ -23,23 +23,13 @@ public:
         return *this;
     }
     csvRow& add(double value) {
-        char text[40];
-        return *this << textOf(text, std::to_chars(text, text + sizeof text, value,
-                                                   std::chars_format::general, digits));
+        constexpr int digits = 15; // more than any file of Nemoh holds
+        return *this << numberText(value, digits);
     }
-    csvRow& add(int value) {
-        char text[40];
-        return *this << textOf(text, std::to_chars(text, text + sizeof text, value));
-    }
+    csvRow& add(int value) { return *this << std::to_string(value); }
     csvRow& add(const resultDof& dof) { return add(dof.body).add(dof.number); }
 
 private:
-    static constexpr int digits = 15; // more than any file of Nemoh holds
-
-    static std::string_view textOf(const char* begin, const std::to_chars_result& written) {
-        return {begin, static_cast<std::size_t>(written.ptr - begin)};
-    }
-
     std::ostream& out_;
     bool isFirst_ = true;
 };

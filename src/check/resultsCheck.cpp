@@ -1,7 +1,7 @@
 #include "check/resultsCheck.hpp"
 
 #include "base/numberText.hpp"
-#include "check/nemohCal.hpp"
+#include "check/openedProject.hpp"
 #include "check/resultCurves.hpp"
 #include "check/resultFiles.hpp"
 
@@ -53,7 +53,10 @@ void addLists(const nemohResults& r, report& result) {
 } // namespace
 
 resultsReport checkResults(const std::string& folder) {
-    const nemohCal cal = openNemohCal(folder);
+    return checkResults(folder, openNemohCal(folder));
+}
+
+resultsReport checkResults(const std::string& folder, const nemohCal& cal) {
     resultsReport checked;
     report& result = checked.result;
     addCalFailure(cal, result);

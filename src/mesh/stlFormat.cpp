@@ -49,18 +49,15 @@ constexpr std::size_t panelMemory = sizeof(triangle) + 9 * sizeof(double) + 16 +
 triangle loadFacet(const char* record) {
     float values[floatsPerFacet];
     for (std::size_t i = 0; i < floatsPerFacet; ++i) {
-        const std::uint32_t word = littleEndian::load<std::uint32_t>(record + i * sizeof(float));
-        std::memcpy(values + i, &word, sizeof word);
+        values[i] = littleEndian::load<float>(record + i * sizeof(float));
     }
     return triangle(values);
 }
 
 char* storeVector(char* bytes, const v3<float>& v) {
     for (const float value : {v.x, v.y, v.z}) {
-        std::uint32_t word = 0;
-        std::memcpy(&word, &value, sizeof word);
-        littleEndian::store(bytes, word);
-        bytes += sizeof word;
+        littleEndian::store(bytes, value);
+        bytes += sizeof value;
     }
     return bytes;
 }
@@ -285,12 +282,16 @@ bool readAscii(std::istream& in, const std::string& name, panelStore panels) {
     return text.good();
 }
 
+bool canHold(std::uint32_t count) {
+    return count <= std::uint32_t(std::numeric_limits<int>::max()) &&
+           memory::canHold(count, panelMemory);
+}
+
 bool readBinary(std::istream& in, const std::string& name, panelStore panels) {
     char head[headerSize + countSize] = {};
     in.read(head, sizeof head);
     const auto count = littleEndian::load<std::uint32_t>(head + headerSize);
-    if (count > std::uint32_t(std::numeric_limits<int>::max()) ||
-        !memory::canHold(count, panelMemory)) {
+    if (!canHold(count)) {
         printer::fatalError(name + " announces " + std::to_string(count) +
                             " facets, more than memory can hold.");
     }

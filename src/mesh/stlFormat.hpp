@@ -2,6 +2,7 @@
 
 #include "mesh/panels.hpp"
 
+#include <cstdint>
 #include <iosfwd>
 #include <string>
 
@@ -18,6 +19,9 @@ bool isBinary(std::istream& in);
 /// Returns false where the text breaks off or the stream cannot be read. A mesh of 500,000 panels
 /// or more is not read into.
 bool readAscii(std::istream& in, const std::string& name, panelStore panels);
+
+/// Whether memory can hold the panels of a binary file that announces `count` facets.
+bool canHold(std::uint32_t count);
 
 /// Replaces the panels by those of a binary file; `name` is that of the file, for messages.
 ///

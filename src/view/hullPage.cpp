@@ -1,23 +1,18 @@
 #include "view/hullPage.hpp"
 
+#include "base/numberText.hpp"
 #include "base/platform.hpp"
 #include "check/hullSurface.hpp"
 #include "view/hullScene.hpp"
 #include "view/reportHtml.hpp"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 
 namespace sorvik {
 namespace {
 
 /// With all digits: the scripts compare coordinates with it, which may lie far from the origin.
-std::string exactText(double value) {
-    char digits[32];
-    return {digits, std::to_chars(digits, digits + sizeof digits, value).ptr};
-}
-
 template <class List>
 std::string listText(const List& values) {
     std::string text;

@@ -2,23 +2,18 @@
 
 #include "base/littleEndian.hpp"
 
-#include <cstdint>
-#include <cstring>
 #include <ostream>
 
 namespace sorvik {
 namespace {
 
-template <class Bits, class Number>
+template <class Number>
 std::string bytesOf(const std::vector<Number>& values) {
-    static_assert(sizeof(Bits) == sizeof(Number));
-    std::string bytes(values.size() * sizeof(Bits), '\0');
+    std::string bytes(values.size() * sizeof(Number), '\0');
     char* place = bytes.data();
     for (const Number value : values) {
-        Bits bits = 0;
-        std::memcpy(&bits, &value, sizeof(bits));
-        littleEndian::store(place, bits);
-        place += sizeof(bits);
+        littleEndian::store(place, value);
+        place += sizeof value;
     }
     return bytes;
 }
@@ -68,11 +63,11 @@ std::string escapeHtml(std::string_view text) {
 }
 
 pageNumbers::pageNumbers(std::string name, const std::vector<float>& values)
-    : id(std::move(name)), bytes(bytesOf<std::uint32_t>(values)) {}
+    : id(std::move(name)), bytes(bytesOf(values)) {}
 pageNumbers::pageNumbers(std::string name, const std::vector<unsigned>& values)
-    : id(std::move(name)), bytes(bytesOf<std::uint32_t>(values)) {}
+    : id(std::move(name)), bytes(bytesOf(values)) {}
 pageNumbers::pageNumbers(std::string name, const std::vector<short>& values)
-    : id(std::move(name)), bytes(bytesOf<std::uint16_t>(values)) {}
+    : id(std::move(name)), bytes(bytesOf(values)) {}
 
 void writePage(std::ostream& out, const pageContent& content, const pageAssets& assets) {
     const std::string title = escapeHtml(content.title);

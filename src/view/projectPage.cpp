@@ -1,15 +1,14 @@
 #include "view/projectPage.hpp"
 
-#include "check/projectBody.hpp"
-#include "check/projectCheck.hpp"
+#include "check/openedProject.hpp"
 #include "check/resultFiles.hpp"
-#include "check/resultsCheck.hpp"
 #include "view/evenly.hpp"
 #include "view/reportHtml.hpp"
 #include "view/resultFigures.hpp"
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace sorvik {
 namespace {
@@ -27,40 +26,14 @@ std::vector<double> headingsOf(const nemohCal& cal) {
     return headings;
 }
 
-/// Takes the facts and findings from the report of a project that stand beside its hulls.
-void leaveToHulls(const std::vector<viewedHull>& hulls, report& project) {
-    const auto isOfHull = [&](const finding& each) {
-        return std::any_of(hulls.begin(), hulls.end(), [&](const viewedHull& shown) {
-            return !each.where.empty() && each.where.front().file == shown.name &&
-                   shown.hull.result.find(each.name) != nullptr;
-        });
-    };
-    const auto isFactOfHull = [&](const fact& each) {
-        const std::size_t point = each.name.find('.');
-        const bool isOfBody = each.name.compare(0, 4, "body") == 0 && point != each.name.npos;
-        return isOfBody && !hulls.empty() &&
-               std::any_of(hulls[0].hull.result.facts.begin(), hulls[0].hull.result.facts.end(),
-                           [&](const fact& own) {
-                               return each.name.compare(point + 1, each.name.npos, own.name) == 0;
-                           });
-    };
-    auto& findings = project.findings;
-    findings.erase(std::remove_if(findings.begin(), findings.end(), isOfHull), findings.end());
-    auto& facts = project.facts;
-    facts.erase(std::remove_if(facts.begin(), facts.end(), isFactOfHull), facts.end());
-}
-
-std::string projectHtml(const std::string& folder, const nemohCal& cal,
-                        const std::vector<viewedHull>& hulls) {
-    report project = checkProject(folder);
-    leaveToHulls(hulls, project);
-    std::string html =
-        "<section class=\"project\" id=\"project\">\n<h2>Load cases</h2>\n" + factsHtml(project);
-    if (cal.directions.value > static_cast<double>(headingsDrawn)) {
+std::string projectHtml(const viewedProject& project) {
+    std::string html = "<section class=\"project\" id=\"project\">\n<h2>Load cases</h2>\n" +
+                       factsHtml(project.result);
+    if (project.cal.directions.value > static_cast<double>(headingsDrawn)) {
         html += "<p>" + std::to_string(headingsDrawn) +
                 " of the directions are drawn around the hull.</p>\n";
     }
-    return html + "<h3>Findings</h3>\n" + findingsHtml(project, "project-") + "</section>\n";
+    return html + "<h3>Findings</h3>\n" + findingsHtml(project.result, "project-") + "</section>\n";
 }
 
 /// Whether the findings of the project have it too.
@@ -75,7 +48,7 @@ std::string resultsHtml(const std::string& folder, const nemohCal& cal) {
                        "postprocessor in the project's folder, then make this page "
                        "again.</p>\n</section>\n";
     }
-    resultsReport checked = checkResults(folder);
+    resultsReport checked = checkResults(folder, cal);
     auto& findings = checked.result.findings;
     findings.erase(std::remove_if(findings.begin(), findings.end(), isOfProject), findings.end());
     std::vector<std::string> meshes;
@@ -89,33 +62,27 @@ std::string resultsHtml(const std::string& folder, const nemohCal& cal) {
 
 } // namespace
 
-std::vector<viewedHull> projectHulls(const std::string& folder) {
-    const nemohCal cal = openNemohCal(folder);
-    const std::string inside = folder + "/";
-    std::vector<viewedHull> hulls;
-    for (const calBody& body : cal.bodies) {
-        const std::string mesh = findBodyMesh(folder, body);
-        if (!mesh.empty()) {
-            hulls.push_back({mesh, checkBodyHull(inside + mesh, cal, body)});
-        }
-    }
-    return hulls;
+viewedProject viewProject(const std::string& folder, const nemohCal& cal) {
+    viewedProject project = {folder, cal, {}, {}};
+    project.result = checkProject(folder, cal, [&](const std::string& mesh, hullReport hull) {
+        project.hulls.push_back({mesh, std::move(hull)});
+    });
+    return project;
 }
 
-pageContent projectPage(const std::string& folder, const std::vector<viewedHull>& hulls) {
-    const nemohCal cal = openNemohCal(folder);
+pageContent projectPage(const viewedProject& project) {
     pageContent page;
     page.kind = "project";
-    page.title = "Nemoh project " + folder;
-    page.body = hullBody(hulls, 0, headingsOf(cal), page.numbers) +
-                projectHtml(folder, cal, hulls) + resultsHtml(folder, cal);
+    page.title = "Nemoh project " + project.folder;
+    page.body = hullBody(project.hulls, 0, headingsOf(project.cal), page.numbers) +
+                projectHtml(project) + resultsHtml(project.folder, project.cal);
     return page;
 }
 
-std::vector<std::string> projectFiles(const std::string& folder) {
+std::vector<std::string> projectFiles(const std::string& folder, const nemohCal& cal) {
     const std::string inside = folder + "/";
     std::vector<std::string> all = {inside + "Nemoh.cal"};
-    for (const calBody& body : openNemohCal(folder).bodies) {
+    for (const calBody& body : cal.bodies) {
         all.push_back(inside + findBodyMesh(folder, body));
     }
     for (const std::string& file : resultFiles(folder)) {

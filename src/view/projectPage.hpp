@@ -1,5 +1,6 @@
 #pragma once
 
+#include "check/nemohCal.hpp"
 #include "view/hullPage.hpp"
 #include "view/page.hpp"
 
@@ -8,15 +9,22 @@
 
 namespace sorvik {
 
-/// The hulls of a project folder of Nemoh 3 as Nemoh gets them, of the bodies whose mesh is there.
-/// Throws `cannotCheck` where there is no Nemoh.cal to read.
-std::vector<viewedHull> projectHulls(const std::string& folder);
+/// A project folder of Nemoh 3, checked.
+struct viewedProject {
+    std::string folder;
+    nemohCal cal;
+    report result;                 ///< without what stands beside the hulls
+    std::vector<viewedHull> hulls; ///< as Nemoh gets them, of the bodies whose mesh is there
+};
+
+/// Checks a project whose Nemoh.cal was read. Throws `cannotCheck` where a mesh cannot be opened.
+viewedProject viewProject(const std::string& folder, const nemohCal& cal);
 
 /// The page of a project: its hulls with the directions of the load cases around them, the facts
-/// and findings of the project, and with results their curves. Throws as `projectHulls`.
-pageContent projectPage(const std::string& folder, const std::vector<viewedHull>& hulls);
+/// and findings of the project, and with results, which are read for it, their curves.
+pageContent projectPage(const viewedProject& project);
 
-/// The files that the page is made from. Throws as `projectHulls`.
-std::vector<std::string> projectFiles(const std::string& folder);
+/// The files that the page is made from.
+std::vector<std::string> projectFiles(const std::string& folder, const nemohCal& cal);
 
 } // namespace sorvik

@@ -6,7 +6,6 @@
 
 #include <array>
 #include <cstdint>
-#include <cstring>
 #include <functional>
 #include <iosfwd>
 #include <string>
@@ -31,13 +30,8 @@ struct vtkArray {
 /// Writes the bytes of a number, the lowest first.
 template <class Number>
 void writeLittleEndian(textWriter& out, Number value) {
-    using bits4 = std::conditional_t<sizeof(Number) == 4, std::uint32_t, std::uint8_t>;
-    using bits = std::conditional_t<sizeof(Number) == 8, std::uint64_t, bits4>;
-    static_assert(sizeof(bits) == sizeof(Number));
-    bits number = 0;
-    std::memcpy(&number, &value, sizeof number);
-    char bytes[sizeof number];
-    littleEndian::store(bytes, number);
+    char bytes[sizeof value];
+    littleEndian::store(bytes, value);
     out << std::string_view(bytes, sizeof bytes);
 }
 

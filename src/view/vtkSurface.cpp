@@ -1,13 +1,15 @@
 #include "view/vtkSurface.hpp"
 
+#include "base/numberText.hpp"
 #include "view/vtkFile.hpp"
 
 #include <algorithm>
-#include <charconv>
 #include <ostream>
 
 namespace sorvik {
 namespace {
+
+constexpr int timeDigits = 15; // keep any time that a user writes down
 
 /// The name of a frame, with as many digits as the last one needs, and no fewer than 4.
 std::string frameName(std::size_t frame, std::size_t frames) {
@@ -15,14 +17,6 @@ std::string frameName(std::size_t frame, std::size_t frames) {
     const std::size_t width = std::max<std::size_t>(4, std::to_string(last).size());
     const std::string number = std::to_string(frame);
     return "surface" + std::string(width - number.size(), '0') + number + ".vts";
-}
-
-/// In 15 digits, which keep any time that a user writes down.
-std::string timeText(double time) {
-    char digits[32];
-    const auto end =
-        std::to_chars(digits, digits + sizeof digits, time, std::chars_format::general, 15);
-    return {digits, end.ptr};
 }
 
 /// The elevations of a frame begin at `elevations`.
@@ -51,7 +45,7 @@ void writeCollection(std::ostream& out, const surfaceRun& run) {
            "<Collection>\n";
     for (std::size_t i = 0; i < times.size(); ++i) {
         out << "<DataSet"
-            << vtkText({{"timestep", timeText(times[i])},
+            << vtkText({{"timestep", numberText(times[i], timeDigits)},
                         {"part", "0"},
                         {"file", frameName(i, times.size())}})
             << "/>\n";

@@ -1,5 +1,7 @@
 #include "check/hullCheck.hpp"
 #include "base/files.hpp"
+#include "base/littleEndian.hpp"
+#include "check/hullSurface.hpp"
 #include "check/quietly.hpp"
 #include "mesh/stlFormat.hpp"
 #include "nemoh/nemohIO.hpp"
@@ -215,6 +217,7 @@ TEST_F(hullCheck, findsWhatTheReadersLeaveOut) {
         {"corner.dat", nodes + "0 0 0 0\n1 2 4 1\n0 0 0 0\n", "unread-records", "nodes that"},
         {"solid.dat", solid, "wrong-ending", "the content is STL, ASCII"},
         {"empty.stl", "", "unread-file", "gives no panels"},
+        {"empty.dat", nodes + "0 0 0 0\n0 0 0 0\n", "unread-file", "gives no panels"},
         {"mesh.obj", "v 0 0 0\n", "unread-file", "SUPPLY A .gdf"},
     };
     for (const fileCase& each : cases) {
@@ -264,6 +267,22 @@ TEST_F(hullCheck, comparesWithOptions) {
     EXPECT_EQ(check(box()).result.find("long-edges"), nullptr);
     options_.density = 0;
     EXPECT_THROW(check(box()), cannotCheck);
+}
+
+TEST_F(hullCheck, takesTheFacetsThatACutOffStlFileHolds) {
+    const std::string barge = readFile(SORVIK_TEST_DATA "/../../examples/1-hull/spar.stl");
+    options_.origin = {1, 2, 3};
+    const hullReport whole = checkText("whole.stl", barge);
+    std::string cut = barge.substr(0, 84 + 50 * 300 + 49);
+    littleEndian::store(cut.data() + 80, std::uint32_t{4'000'000});
+    const hullReport checked = checkText("cut.stl", cut);
+    EXPECT_THAT(
+        checked.result.findings.at(0).message,
+        testing::HasSubstr("announces 4000000 facets, and its length of 15133 bytes holds 300"));
+    EXPECT_EQ(checked.result.find("coincident-panels"), nullptr);
+    ASSERT_EQ(checked.mesh.faces.size(), 300U);
+    EXPECT_EQ(cornersOf(checked.mesh.faces[299]), cornersOf(whole.mesh.faces[299]));
+    EXPECT_FALSE(checkText("head.stl", cut.substr(0, 84)).hasPanels);
 }
 
 TEST_F(hullCheck, leavesOutTheLineThatEndsANemohMesh) {

@@ -56,8 +56,10 @@ TEST(projectCheck, findsWhatStopsNemohAndNothingElse) {
         {{{range, "3 3 1. 9. "}}, tooHigh, "frequency 6.28"},  // s
         {{{range, "1 3 0.5 5. "}, {name, "lid.dat\t"}, {"8 5", "8 6"}}, {"lid", "long-edges"}, ""},
         {{{name, "my box.dat\t"}}, {"bad-file-name"}, "reads \"my\" of the name \"my box.dat\""},
+        {{{name, "/box.dat\t"}}, {"bad-file-name"}, "reads \"\" of the name \"/box.dat\""},
         {{{name, longName + "\t"}}, {"bad-file-name"}, "has 81 characters"},
         {{{name, "none.dat\t"}}, {"missing-file"}, "no mesh \"none.dat\""},
+        {{{name, "''\t"}}, {"missing-file"}, "no mesh \"\""},
         {{{"8 5", "8 6"}},
          {"counts-differ"},
          "gives 8 nodes and 6 panels, the mesh file holds 8 a"},

@@ -5,7 +5,6 @@
 #include "support/program.hpp"
 
 #include <cmath>
-#include <cstring>
 #include <sstream>
 
 #include <gmock/gmock.h>
@@ -42,15 +41,13 @@ pageContent pageOf(Hulls... shown) {
     return hullPage(hulls, 0);
 }
 
-/// The 32-bit numbers of a block.
+/// The numbers of a block.
 template <class Number>
 std::vector<Number> numbersOf(const pageContent& page, const std::string& id) {
     std::vector<Number> numbers;
     for (const pageNumbers& block : page.numbers) {
         for (std::size_t i = 0; block.id == id && i < block.bytes.size(); i += sizeof(Number)) {
-            const auto bits = littleEndian::load<std::uint32_t>(block.bytes.data() + i);
-            numbers.emplace_back();
-            std::memcpy(&numbers.back(), &bits, sizeof(bits));
+            numbers.push_back(littleEndian::load<Number>(block.bytes.data() + i));
         }
     }
     return numbers;

@@ -63,22 +63,22 @@ def press(key):
                            "new KeyboardEvent('keydown', {key: arguments[0], bubbles: true}))", key)
 
 
-def click_middle(dx=0, dy=0):
-    """A real click, by the browser's own events, on the middle of the picture."""
+def mouse(*events):
+    """Real events, by the browser itself: their kinds, and their places from the middle of the picture."""
     x, y = browser.execute_script("""const box = document.querySelector("canvas.view").getBoundingClientRect();
         return [box.x + box.width / 2, box.y + box.height / 2]""")
-    for kind in ("mousePressed", "mouseReleased"):
+    for kind, dx, dy in events:
         browser.execute_cdp_cmd("Input.dispatchMouseEvent", {
-            "type": kind, "x": x + dx, "y": y + dy, "button": "left", "clickCount": 1})
+            "type": kind, "x": x + dx, "y": y + dy, "button": "left", "buttons": 1, "clickCount": 1})
     settle(browser)
 
 
+def click_at(dx, dy):
+    mouse(("mousePressed", dx, dy), ("mouseReleased", dx, dy))
+
+
 def drag(distance):
-    x, y = browser.execute_script("""const box = document.querySelector("canvas.view").getBoundingClientRect();
-        return [box.x + box.width / 2, box.y + box.height / 2]""")
-    for kind, at in (("mousePressed", x), ("mouseMoved", x + distance), ("mouseReleased", x + distance)):
-        browser.execute_cdp_cmd("Input.dispatchMouseEvent", {
-            "type": kind, "x": at, "y": y, "button": "left", "buttons": 1, "clickCount": 1})
+    mouse(("mousePressed", 0, 0), ("mouseMoved", distance, 0), ("mouseReleased", distance, 0))
 
 
 def switches(name):
@@ -98,7 +98,7 @@ def check_hull(name, thoroughly):
         switches("Only the cut")
     press("3")
     settle(browser)
-    click_middle(3, 2)
+    click_at(3, 2)
     return text(".panel output")
 
 

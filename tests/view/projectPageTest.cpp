@@ -19,10 +19,14 @@ std::size_t count(const std::string& text, const std::string& part) {
     return found;
 }
 
+pageContent pageOf(const std::string& folder) {
+    return projectPage(viewProject(folder, openNemohCal(folder)));
+}
+
 TEST_F(nemohRun, isShownWithHullHeadingsAndCurves) {
     writeFile(folder.path("box.dat"), boxMesh + "5 6 7 8\n0 0 0 0\n"); // with a lid
     check(radiationText(soundMatrices()));
-    const pageContent page = projectPage(folder.path(), projectHulls(folder.path()));
+    const pageContent page = pageOf(folder.path());
     EXPECT_EQ(page.kind, "project");
     EXPECT_THAT(page.body, HasSubstr("data-headings=\"30\""));
     EXPECT_THAT(page.body, HasSubstr("data-prefix=\"hull0-\""));
@@ -36,7 +40,7 @@ TEST_F(nemohRun, isShownWithHullHeadingsAndCurves) {
     EXPECT_EQ(count(page.body, "class=\"name\">lid<"), 1U);           // beside its hull
     EXPECT_EQ(count(page.body, "class=\"name\">counts-differ<"), 1U); // of Nemoh.cal: 5 panels
     EXPECT_EQ(count(page.body, "Waterplane area"), 1U);
-    EXPECT_THAT(projectFiles(folder.path()),
+    EXPECT_THAT(projectFiles(folder.path(), openNemohCal(folder.path())),
                 testing::ElementsAre(folder.path("Nemoh.cal"), folder.path("box.dat"),
                                      folder.path("results/RadiationCoefficients.tec"),
                                      folder.path("results/ExcitationForce.tec")));
@@ -46,7 +50,7 @@ TEST_F(nemohRun, isShownAsFarAsItIsThere) {
     std::filesystem::remove_all(folder.path("results"));
     std::string cal = readFile(folder.path("Nemoh.cal"));
     writeFile(folder.path("Nemoh.cal"), cal.replace(cal.find("box.dat"), 7, "<script>"));
-    const std::string page = projectPage(folder.path(), projectHulls(folder.path())).body;
+    const std::string page = pageOf(folder.path()).body;
     EXPECT_THAT(page, AllOf(HasSubstr("There are no results yet"), HasSubstr("missing-file"),
                             HasSubstr("&lt;script&gt;"), Not(HasSubstr("<script"))));
     EXPECT_THAT(page, Not(HasSubstr("unread-results")));
@@ -54,12 +58,12 @@ TEST_F(nemohRun, isShownAsFarAsItIsThere) {
     std::filesystem::create_directory(folder.path("results"));
     writeFile(folder.path("results/ExcitationForce.tec"), "");
     writeFile(folder.path("<script>"), "no mesh");
-    const std::string broken = projectPage(folder.path(), projectHulls(folder.path())).body;
+    const std::string broken = pageOf(folder.path()).body;
     EXPECT_THAT(broken, AllOf(HasSubstr("unread-results"), Not(HasSubstr("no results yet")),
                               HasSubstr("unread-file"), Not(HasSubstr("<script"))));
 
     std::filesystem::remove(folder.path("Nemoh.cal"));
-    EXPECT_THROW(projectPage(folder.path(), projectHulls(folder.path())), cannotCheck);
+    EXPECT_THROW(pageOf(folder.path()), cannotCheck);
 }
 
 TEST(resultFigures, drawsSomeOfManyDirectionsAndBodies) {

@@ -1,8 +1,7 @@
 #pragma once
 
+#include "app/commandLine.hpp"
 #include "check/finding.hpp"
-
-#include <CLI/CLI.hpp>
 
 #include <functional>
 #include <string>
@@ -25,18 +24,15 @@ void addSeaCommand(CLI::App& app, request& asked);
 void addProjectCommand(CLI::App& app, request& asked);
 void addResultsCommand(CLI::App& app, request& asked);
 
-/// A command in the help, and its subject there.
-struct commandText {
+/// What a command checks, in its help.
+struct subjectText {
     std::string name;
     std::string description;
-    std::string subjectName;
-    std::string subjectDescription;
-    std::string example; ///< arguments after the command
 };
 
 /// Adds a command with its subject and the options that all commands have. Where it is given, it
 /// sets `asked`, which is then to run `check`.
-CLI::App& addCommand(CLI::App& app, request& asked, const commandText& text,
-                     std::function<report()> check);
+CLI::App& addCheck(CLI::App& app, request& asked, const commandText& text,
+                   const subjectText& subject, std::function<report()> check);
 
 } // namespace sorvik

@@ -74,10 +74,10 @@ void addBodyOptions(CLI::App& command, hullRequest& wanted) {
 void addHullCommand(CLI::App& app, request& asked) {
     const auto wanted = std::make_shared<hullRequest>();
     CLI::App& command =
-        addCommand(app, asked,
-                   {"hull", "Check a mesh and its hydrostatics", "MESH",
-                    "Mesh: .stl, .gdf or Nemoh's .dat", "barge.stl --cog 0 0 -0.5 --w1 2"},
-                   [&asked, wanted] { return runHull(asked.subject, *wanted); });
+        addCheck(app, asked,
+                 {"hull", "Check a mesh and its hydrostatics", "barge.stl --cog 0 0 -0.5 --w1 2"},
+                 {"MESH", "Mesh: .stl, .gdf or Nemoh's .dat"},
+                 [&asked, wanted] { return runHull(asked.subject, *wanted); });
     addBodyOptions(command, *wanted);
     addWaterOptions(command, *wanted);
 }

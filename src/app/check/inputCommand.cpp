@@ -8,11 +8,10 @@ namespace sorvik {
 
 void addInputCommand(CLI::App& app, request& asked) {
     const auto options = std::make_shared<inputOptions>();
-    CLI::App& command =
-        addCommand(app, asked,
-                   {"input", "Check an input file: keys, values, files", "CASE",
-                    "Input file, such as case.m or case.json", "mySea.m --task wave"},
-                   [&asked, options] { return checkInput(asked.subject, *options); });
+    CLI::App& command = addCheck(
+        app, asked, {"input", "Check an input file: keys, values, files", "mySea.m --task wave"},
+        {"CASE", "Input file, such as case.m or case.json"},
+        [&asked, options] { return checkInput(asked.subject, *options); });
     const std::map<std::string, inputTask> tasks = {{"nemoh", inputTask::nemoh},
                                                     {"wave", inputTask::wave}};
     command

@@ -1,6 +1,5 @@
 #include "app/check/commands.hpp"
 #include "app/check/jsonReport.hpp"
-#include "app/programEntry.hpp"
 #include "base/files.hpp"
 #include "base/platform.hpp"
 #include "check/textReport.hpp"
@@ -11,11 +10,10 @@
 
 namespace sorvik {
 
-CLI::App& addCommand(CLI::App& app, request& asked, const commandText& text,
-                     std::function<report()> check) {
-    CLI::App& command = *app.add_subcommand(text.name, text.description);
-    command.footer("Example: sorvikCheck " + text.name + " " + text.example);
-    command.add_option(text.subjectName, asked.subject, text.subjectDescription)->required();
+CLI::App& addCheck(CLI::App& app, request& asked, const commandText& text,
+                   const subjectText& subject, std::function<report()> check) {
+    CLI::App& command = addCommand(app, text);
+    command.add_option(subject.name, asked.subject, subject.description)->required();
     command
         .add_option("--json", asked.jsonFile, "Write all as JSON; - for standard output, no text")
         ->type_name("FILE");
@@ -70,19 +68,13 @@ int runCommandLine(int argc, const char** argv) {
     CLI::App app("Checks meshes, input files, sea states and Nemoh projects before they are paid "
                  "for.\nEnds with status 0 without an error, 1 with one, 2 if it cannot check.",
                  "sorvikCheck");
-    app.set_version_flag("--version", "sorvikCheck " SORVIK_VERSION);
-    app.require_subcommand(1);
     addHullCommand(app, asked);
     addInputCommand(app, asked);
     addSeaCommand(app, asked);
     addProjectCommand(app, asked);
     addResultsCommand(app, asked);
-    try {
-        app.parse(argc, argv);
-    } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? isFine : cannotRun;
-    }
-    return run(asked);
+    const std::optional<int> end = readCommandLine(app, argc, argv);
+    return end ? *end : run(asked);
 }
 
 } // namespace

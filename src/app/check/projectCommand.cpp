@@ -4,10 +4,10 @@
 namespace sorvik {
 
 void addProjectCommand(CLI::App& app, request& asked) {
-    addCommand(app, asked,
-               {"project", "Check a Nemoh project before the solver runs", "FOLDER",
-                "Folder of the project, with Nemoh.cal", "nemohProject"},
-               [&asked] { return checkProject(asked.subject); });
+    addCheck(app, asked,
+             {"project", "Check a Nemoh project before the solver runs", "nemohProject"},
+             {"FOLDER", "Folder of the project, with Nemoh.cal"},
+             [&asked] { return checkProject(asked.subject); });
 }
 
 } // namespace sorvik

@@ -23,10 +23,9 @@ report runResults(const std::string& folder, const std::string& tables) {
 void addResultsCommand(CLI::App& app, request& asked) {
     const auto tables = std::make_shared<std::string>();
     CLI::App& command =
-        addCommand(app, asked,
-                   {"results", "Check the results of Nemoh", "FOLDER",
-                    "Folder of the project, with results", "nemohProject --csv tables"},
-                   [&asked, tables] { return runResults(asked.subject, *tables); });
+        addCheck(app, asked, {"results", "Check the results of Nemoh", "nemohProject --csv tables"},
+                 {"FOLDER", "Folder of the project, with results"},
+                 [&asked, tables] { return runResults(asked.subject, *tables); });
     command
         .add_option("--csv", *tables,
                     "Write radiation.csv, excitation.csv and hydrostatics.csv into this folder")

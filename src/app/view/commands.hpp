@@ -1,9 +1,8 @@
 #pragma once
 
+#include "app/commandLine.hpp"
 #include "view/hullPage.hpp"
 #include "view/page.hpp"
-
-#include <CLI/CLI.hpp>
 
 #include <functional>
 #include <stdexcept>
@@ -40,16 +39,9 @@ void addHullView(CLI::App& app, viewRequest& asked);
 void addProjectView(CLI::App& app, viewRequest& asked);
 void addSeaView(CLI::App& app, viewRequest& asked);
 
-/// A command in the help.
-struct viewText {
-    std::string name;
-    std::string description;
-    std::string example; ///< arguments after the command
-};
-
 /// Adds a command with the options that all commands have. Where it is given, it sets `asked`,
 /// which is then to run `make`.
-CLI::App& addView(CLI::App& app, viewRequest& asked, const viewText& text,
+CLI::App& addView(CLI::App& app, viewRequest& asked, const commandText& text,
                   std::function<pageContent()> make);
 
 } // namespace sorvik

@@ -1,4 +1,3 @@
-#include "app/programEntry.hpp"
 #include "app/view/assets.hpp"
 #include "app/view/commands.hpp"
 #include "base/files.hpp"
@@ -10,10 +9,9 @@
 
 namespace sorvik {
 
-CLI::App& addView(CLI::App& app, viewRequest& asked, const viewText& text,
+CLI::App& addView(CLI::App& app, viewRequest& asked, const commandText& text,
                   std::function<pageContent()> make) {
-    CLI::App& command = *app.add_subcommand(text.name, text.description);
-    command.footer("Example: sorvikView " + text.name + " " + text.example);
+    CLI::App& command = addCommand(app, text);
     command.add_option("-o,--output", asked.pageFile, "The page to write")->type_name("FILE.html");
     command.add_option("--vtk", asked.vtkFolder, "Write files for ParaView into this folder")
         ->type_name("FOLDER");
@@ -84,15 +82,11 @@ int runCommandLine(int argc, const char** argv) {
     CLI::App app("Shows hulls, seas and Nemoh projects as pages for a browser and as files for "
                  "ParaView.\nEnds with status 0, or 2 if it cannot show what was asked for.",
                  "sorvikView");
-    app.set_version_flag("--version", "sorvikView " SORVIK_VERSION);
-    app.require_subcommand(1);
     addHullView(app, asked);
     addProjectView(app, asked);
     addSeaView(app, asked);
-    try {
-        app.parse(argc, argv);
-    } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? 0 : cannotRun;
+    if (const std::optional<int> end = readCommandLine(app, argc, argv)) {
+        return *end;
     }
     run(asked);
     return 0;

@@ -4,21 +4,34 @@
 #include <memory>
 
 namespace sorvik {
+namespace {
+
+struct projectViewRequest {
+    std::string folder;
+    nemohCal cal = {};
+};
+
+pageContent makeProjectView(const std::string& vtkFolder, const projectViewRequest& wanted) {
+    const viewedProject project = viewProject(wanted.folder, wanted.cal);
+    writeHullFiles(vtkFolder, project.hulls, 0);
+    return projectPage(project);
+}
+
+} // namespace
 
 void addProjectView(CLI::App& app, viewRequest& asked) {
-    const auto folder = std::make_shared<std::string>();
+    const auto wanted = std::make_shared<projectViewRequest>();
     CLI::App& command =
         addView(app, asked,
                 {"project", "Show a Nemoh project: hulls, load cases, and curves of results",
                  "nemohProject -o project.html"},
-                [&asked, folder] {
-                    const std::vector<viewedHull> hulls = projectHulls(*folder);
-                    writeHullFiles(asked.vtkFolder, hulls, 0);
-                    return projectPage(*folder, hulls);
-                });
-    command.add_option("FOLDER", *folder, "The project's folder, with Nemoh.cal")
+                [&asked, wanted] { return makeProjectView(asked.vtkFolder, *wanted); });
+    command.add_option("FOLDER", wanted->folder, "The project's folder, with Nemoh.cal")
         ->required()
-        ->each([&asked](const std::string& given) { asked.sources = projectFiles(given); });
+        ->each([&asked, &cal = wanted->cal](const std::string& folder) {
+            cal = openNemohCal(folder);
+            asked.sources = projectFiles(folder, cal);
+        });
 }
 
 } // namespace sorvik

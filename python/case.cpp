@@ -90,8 +90,8 @@ inputTask taskOf(const std::string& name) {
     return inputTask::both;
 }
 
-py::dict checkOf(const inputCase& self, const std::string& task,
-                 const std::optional<std::filesystem::path>& output, double probes) {
+py::dict checkCaseOf(const inputCase& self, const std::string& task,
+                     const std::optional<std::filesystem::path>& output, double probes) {
     requirePositive(probes, "probes");
     inputOptions options;
     options.task = taskOf(task);
@@ -160,7 +160,7 @@ void addCase(py::module_& module) {
         .def("numbers", numbersOf, "key"_a,
              "The numbers of the value of `key`, a list. Text among them is a ValueError.")
         .def("to_json", jsonOf, "The text that `sorvikPre -toJSON` writes.")
-        .def("check", checkOf, caseCheckText, "task"_a = "both", "output"_a = py::none(),
+        .def("check", checkCaseOf, caseCheckText, "task"_a = "both", "output"_a = py::none(),
              "probes"_a = 1.0);
 }
 

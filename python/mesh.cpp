@@ -239,9 +239,9 @@ py::dict hydrostaticsOf(const hullMesh& mesh, const std::optional<double>& level
     return factsDict(result);
 }
 
-py::dict checkOf(const hullMesh& mesh, const std::optional<double>& level, const point3& cog,
-                 const std::optional<double>& mass, double density, double gravity, double depth,
-                 const std::optional<double>& w1) {
+py::dict checkMeshOf(const hullMesh& mesh, const std::optional<double>& level, const point3& cog,
+                     const std::optional<double>& mass, double density, double gravity,
+                     double depth, const std::optional<double>& w1) {
     requireFinite(depth, "depth");
     requirePositive(w1, "w1");
     hullOptions options;
@@ -297,7 +297,7 @@ buoyancy (x, y, z [m]), waterplane.area [m2], .x, .y [m], .Ixx, .Iyy, .Ixy [m4],
 (48000, 0.639)
 )";
 
-constexpr const char* checkText =
+constexpr const char* meshCheckText =
     R"(What `sorvikCheck hull` finds, as {"facts": {...}, "findings": [...]} with the names of its JSON.
 
 Arguments as for `hydrostatics`, and the `depth` of the water [m], 0 for deep water, and the highest
@@ -342,7 +342,7 @@ void addMesh(py::module_& module) {
              ".dat or .nem. Nemoh meshes always hold those below the level.")
         .def("hydrostatics", hydrostaticsOf, hydrostaticsText, "level"_a = py::none(),
              "cog"_a = point3{}, "mass"_a = py::none(), "density"_a = 1025.0, "gravity"_a = 9.81)
-        .def("check", checkOf, checkText, "level"_a = py::none(), "cog"_a = point3{},
+        .def("check", checkMeshOf, meshCheckText, "level"_a = py::none(), "cog"_a = point3{},
              "mass"_a = py::none(), "density"_a = 1025.0, "gravity"_a = 9.81, "depth"_a = 0.0,
              "w1"_a = py::none());
 }

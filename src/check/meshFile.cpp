@@ -138,11 +138,13 @@ meshFileFacts inspectMeshFile(const std::string& file, long long panels, report&
 
 std::optional<std::string> shortenedStl(const std::string& file) {
     const std::string ending = endingOf(file);
+    std::ifstream in = files::open(file);
+    if ((ending != ".stl" && ending != ".STL") || !stl::isBinary(in)) {
+        return std::nullopt;
+    }
     const std::uint32_t announced = facetsAnnounced(headOf(file));
     const std::uintmax_t held = facetsHeld(bytesIn(file));
-    std::ifstream in = files::open(file);
-    const bool isStl = ending == ".stl" || ending == ".STL";
-    if (!isStl || held >= announced || !stl::canHold(announced) || !stl::isBinary(in)) {
+    if (held >= announced || !stl::canHold(announced)) {
         return std::nullopt;
     }
     std::string content(stlHead + stlFacet * static_cast<std::size_t>(held), '\0');

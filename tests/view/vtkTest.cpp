@@ -4,7 +4,6 @@
 #include "view/vtkSurface.hpp"
 
 #include <cmath>
-#include <cstring>
 #include <filesystem>
 #include <map>
 #include <regex>
@@ -35,8 +34,10 @@ std::map<std::string, std::string> arraysOf(const std::string& file) {
 
 template <class Number>
 std::vector<Number> numbersIn(const std::string& bytes) {
-    std::vector<Number> values(bytes.size() / sizeof(Number));
-    std::memcpy(values.data(), bytes.data(), bytes.size());
+    std::vector<Number> values;
+    for (std::size_t i = 0; i < bytes.size(); i += sizeof(Number)) {
+        values.push_back(littleEndian::load<Number>(bytes.data() + i));
+    }
     return values;
 }
 

@@ -73,10 +73,6 @@ void addSizeFacts(const panelSizes& sizes, const hullOptions& options, report& r
     }
 }
 
-v3<float> singleOf(const point3& p) {
-    return {static_cast<float>(p[0]), static_cast<float>(p[1]), static_cast<float>(p[2])};
-}
-
 /// Reads, moves and cuts a mesh as the constructor does, but never more facets than a file holds.
 bodyMesh readMesh(const std::string& file, const hullOptions& options) {
     const std::optional<std::string> held = shortenedStl(file);
@@ -87,11 +83,7 @@ bodyMesh readMesh(const std::string& file, const hullOptions& options) {
     mesh.meshFile = file;
     std::istringstream in(*held);
     stl::readBinary(in, file, {mesh.faces, mesh.nFaces});
-    for (triangle& panel : mesh.faces) {
-        panel.shift(singleOf(options.origin));
-    }
-    mesh.totalArea = mesh.surfaceArea();
-    mesh.updateWetSurface(options.level);
+    mesh.place(listOf(options.origin), {0, 0, 0}, options.level);
     return mesh;
 }
 
@@ -102,7 +94,9 @@ void removeNemohEnd(const meshFileFacts& file, const hullOptions& options, bodyM
     if (file.format != "Nemoh" || mesh.faces.empty()) {
         return;
     }
-    const v3<float> zero = -1.0F * singleOf(options.origin);
+    const v3<float> zero = {-static_cast<float>(options.origin[0]),
+                            -static_cast<float>(options.origin[1]),
+                            -static_cast<float>(options.origin[2])};
     const auto isZero = [&](const v3<float>& p) {
         return p.x == zero.x && p.y == zero.y && p.z == zero.z;
     };

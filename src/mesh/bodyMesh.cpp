@@ -25,18 +25,22 @@ void shiftAll(std::vector<triangle>& panels, const v3<float>& d) {
 
 bodyMesh::bodyMesh(std::string file, const std::vector<double>& meshOrigin,
                    const std::vector<double>& bodyPosition, double level)
-    : meshFile(std::move(file)), origin(toFloat(meshOrigin[0], meshOrigin[1], meshOrigin[2])),
-      rotation(identity), targetRotation(identity) {
+    : meshFile(std::move(file)) {
     std::cout << "Body mesh generation... " << std::endl;
     read(meshFile);
-    if (!faces.empty()) {
-        shiftAll(faces, origin);
-    }
+    place(meshOrigin, bodyPosition, level);
+    std::cout << "Body mesh generation done " << std::endl;
+}
+
+void bodyMesh::place(const std::vector<double>& meshOrigin, const std::vector<double>& bodyPosition,
+                     double level) {
+    rotation = identity;
+    targetRotation = identity;
+    shiftAll(faces, toFloat(meshOrigin[0], meshOrigin[1], meshOrigin[2]));
     origin = {};
     totalArea = surfaceArea();
     setPosition(bodyPosition.data());
     updateWetSurface(level);
-    std::cout << "Body mesh generation done " << std::endl;
 }
 
 void bodyMesh::setPosition(const double* p) {

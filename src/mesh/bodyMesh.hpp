@@ -44,6 +44,9 @@ public:
 
     // ---- Placement and sums (bodyMesh.cpp) ----
 
+    /// Moves, places and cuts panels that were just read, as the constructor does.
+    void place(const std::vector<double>& meshOrigin, const std::vector<double>& bodyPosition,
+               double level);
     /// Sets `position` to p[0..2] [m]. The panels move with `translate`.
     void setPosition(const double* p);
     /// Sets `targetRotation` to R[0..8], a row-major 3 x 3 matrix. The panels turn with `rotate`.

@@ -282,6 +282,7 @@ TEST_F(hullCheck, takesTheFacetsThatACutOffStlFileHolds) {
     EXPECT_EQ(checked.result.find("coincident-panels"), nullptr);
     ASSERT_EQ(checked.mesh.faces.size(), 300U);
     EXPECT_EQ(cornersOf(checked.mesh.faces[299]), cornersOf(whole.mesh.faces[299]));
+    EXPECT_EQ(checked.mesh.rotation, whole.mesh.rotation);
     EXPECT_FALSE(checkText("head.stl", cut.substr(0, 84)).hasPanels);
 }
 

@@ -4,6 +4,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <iostream>
 #include <optional>
 #include <string>
 #include <vector>
@@ -38,6 +39,10 @@ inline std::string missingCommandText(const CLI::App& program) {
     return text + ".";
 }
 
+inline void showFault(const std::string& message) {
+    std::cerr << message << "\nRun with --help for more information.\n";
+}
+
 /// Reads the command line of a program that needs one of its commands. Returns the status where the
 /// program is to end: 0 after its help or version, `cannotRun` after a message on standard error.
 inline std::optional<int> readCommandLine(CLI::App& program, int argc, const char** argv) {
@@ -45,14 +50,19 @@ inline std::optional<int> readCommandLine(CLI::App& program, int argc, const cha
     program.require_subcommand(1);
     try {
         program.parse(argc, argv);
+    } catch (const CLI::CallForHelp&) {
+        std::cout << program.help();
+        return 0;
+    } catch (const CLI::CallForVersion& version) {
+        std::cout << version.what() << '\n';
+        return 0;
     } catch (const CLI::RequiredError& error) {
         const bool hasCommand = !program.get_subcommands().empty();
-        program.exit(hasCommand ? error
-                                : CLI::RequiredError(missingCommandText(program),
-                                                     CLI::ExitCodes::RequiredError));
+        showFault(hasCommand ? error.what() : missingCommandText(program));
         return cannotRun;
     } catch (const CLI::ParseError& error) {
-        return program.exit(error) == 0 ? 0 : cannotRun;
+        showFault(error.what());
+        return cannotRun;
     }
     return std::nullopt;
 }
